@@ -1,0 +1,1 @@
+// Placeholder translation unit for subsystems that have no sources yet.
