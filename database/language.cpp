@@ -1,0 +1,3 @@
+#include "database/language.h"
+
+int g_language = 1;

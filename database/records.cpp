@@ -1,0 +1,48 @@
+#include "database/records.h"
+
+#include <QMetaType>
+
+QString IPNode::attribute(const QString &name) const
+{
+    QString value;
+    for (const auto &attr : attributes) {
+        if (attr.first == name)
+            value = attr.second;
+    }
+    return value;
+}
+
+bool IPNode::hasAttribute(const QString &name) const
+{
+    for (const auto &attr : attributes) {
+        if (attr.first == name)
+            return true;
+    }
+    return false;
+}
+
+DevicePinInfo::~DevicePinInfo()
+{
+    clearPins();
+}
+
+void DevicePinInfo::clearPins()
+{
+    for (MCUPinsBaseInfo *pin : qAsConst(pins)) {
+        qDeleteAll(pin->signalList);
+        delete pin;
+    }
+    pins.clear();
+}
+
+void registerRecordMetaTypes()
+{
+    qRegisterMetaType<MCUPinsBaseInfo>("MCUPinsBaseInfo");
+    qRegisterMetaType<ModeSignal>("ModeSignal");
+    qRegisterMetaType<QList<ModeSignal>>("QList<ModeSignal>");
+    qRegisterMetaType<RefParameter>("RefParameter");
+    qRegisterMetaType<QList<RefParameter>>("QList<RefParameter>");
+    qRegisterMetaType<DevicePinInfo *>("DevicePinInfo*");
+    qRegisterMetaType<int>("IPSTATUS");
+    qRegisterMetaType<int>("IPPARAMSTATUS");
+}
