@@ -1,15 +1,877 @@
 #include "app/formconfiguration.h"
 
-FormConfiguration::FormConfiguration(QWidget *parent) : QWidget(parent) {}
+#include "app/languagesetting.h"
+#include "app/new_design_select.h"
+#include "app/recentdesigns.h"
+#include "app/version.h"
+#include "app/versionabout.h"
+#include "app/workformrules.h"
+#include "clock/mq48pllconfig.h"
+#include "database/language.h"
+#include "database/paths.h"
+#include "pinout/chipview.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QKeySequence>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QScreen>
+#include <QSplitter>
+#include <QToolBar>
+#include <QTranslator>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace {
+
+const char *const kArial = "Arial";
+
+// Shows a modal message box with the given buttons and returns the index of the one pressed,
+// or -1 when the box was closed otherwise.
+int askUser(QWidget *parent, QMessageBox::Icon icon, const QString &title, const QString &text,
+            const QStringList &buttons)
+{
+    QMessageBox box(icon, title, text, QMessageBox::NoButton, parent);
+    QList<QPushButton *> pushButtons;
+    for (int i = 0; i < buttons.size(); ++i) {
+        const auto role = i == 0 ? QMessageBox::AcceptRole
+                          : (i == buttons.size() - 1 && buttons.size() > 1)
+                              ? QMessageBox::RejectRole
+                              : QMessageBox::DestructiveRole;
+        pushButtons << box.addButton(buttons.at(i), role);
+    }
+    if (!pushButtons.isEmpty())
+        box.setDefaultButton(pushButtons.first());
+    box.exec();
+    return pushButtons.indexOf(qobject_cast<QPushButton *>(box.clickedButton()));
+}
+
+void tell(QWidget *parent, QMessageBox::Icon icon, const QString &title, const QString &text)
+{
+    askUser(parent, icon, title, text, {FormConfiguration::tr("Ok")});
+}
+
+QAction *makeAction(QObject *parent, const QString &iconPath = QString())
+{
+    auto *action = new QAction(parent);
+    action->setFont(QFont(QString::fromLatin1(kArial)));
+    if (!iconPath.isEmpty())
+        action->setIcon(QIcon(iconPath));
+    return action;
+}
+
+} // namespace
+
+FormConfiguration::FormConfiguration(QWidget *parent) : QWidget(parent)
+{
+    setWindowIcon(QIcon(QStringLiteral(":/image/VelmoraIcon.png")));
+    setAutoFillBackground(true);
+    QPalette pal = palette();
+    pal.setColor(QPalette::Window, Qt::white);
+    setPalette(pal);
+    setWindowTitle(QString::fromLatin1(MQ48_VERSION_TITLE));
+
+    createActions();
+    createMenus();
+    refreshRecentMenu();
+    createToolBar();
+    createPages();
+    retranslateForm();
+    updateLanguageActions();
+
+    setWindowState(windowState() | Qt::WindowMaximized);
+
+    connect(m_pinButton, &QPushButton::clicked, this,
+            &FormConfiguration::PINConfig_PushButton_Clicked);
+    connect(m_clockButton, &QPushButton::clicked, this,
+            &FormConfiguration::ClockConfig_PushButton_Clicked);
+    connect(m_codeButton, &QPushButton::clicked, this,
+            &FormConfiguration::CodeView_PushButton_Clicked);
+    connect(pllPage, &MQ48PLLConfig::SendClockHaveErrorSignal, this,
+            &FormConfiguration::ReciveClockHaveErrorSignal);
+}
+
+FormConfiguration::~FormConfiguration()
+{
+    tearDownDesign();
+}
 
 void FormConfiguration::setTranslator(QTranslator *translator)
 {
     m_translator = translator;
 }
 
-bool FormConfiguration::buildDesign(const QString &, const QString &, const QString &)
+// ----------------------------------------------------------------------------------------
+// Construction
+
+void FormConfiguration::createActions()
 {
+    m_newAction = makeAction(this);
+    m_newAction->setShortcut(QKeySequence::New);
+    m_openAction = makeAction(this);
+    m_openAction->setShortcut(QKeySequence::Open);
+    m_saveAction = makeAction(this);
+    m_saveAction->setShortcut(QKeySequence::Save);
+    m_saveAsAction = makeAction(this);
+    m_saveAsAction->setShortcut(QKeySequence(QStringLiteral("Ctrl+Alt+A")));
+    m_packageAction = makeAction(this);
+    m_packageAction->setShortcut(QKeySequence(QStringLiteral("Ctrl+P")));
+    m_reportAction = makeAction(this);
+    m_reportAction->setShortcut(QKeySequence(QStringLiteral("Ctrl+R")));
+
+    m_englishAction = makeAction(this);
+    m_englishToolAction = makeAction(this, QStringLiteral(":/image/icon_EN01.png"));
+    m_chineseAction = makeAction(this);
+    m_chineseToolAction = makeAction(this, QStringLiteral(":/image/icon_ZH01.png"));
+    for (QAction *a : {m_englishAction, m_englishToolAction, m_chineseAction, m_chineseToolAction})
+        a->setCheckable(true);
+
+    m_generateAction = makeAction(this);
+    m_generateAction->setShortcut(QKeySequence(QStringLiteral("Ctrl+G")));
+    m_generateToolAction = makeAction(this, QStringLiteral(":/image/generate_code.png"));
+    m_manualAction = makeAction(this);
+    m_manualAction->setShortcut(QKeySequence(Qt::Key_F1));
+    m_versionAction = makeAction(this);
+    m_downloadAction = makeAction(this, QStringLiteral(":/image/download.png"));
+    m_homeAction = makeAction(this);
+    m_homeAction->setShortcut(QKeySequence(QStringLiteral("Alt+H")));
+    m_homeToolAction = makeAction(this, QStringLiteral(":/image/icon_home.png"));
+
+    m_zoomInAction = makeAction(this, QStringLiteral(":/image/icon_zoomin.png"));
+    m_zoomOutAction = makeAction(this, QStringLiteral(":/image/icon_zoomout.png"));
+    m_zoomResetAction = makeAction(this, QStringLiteral(":/image/icon_zoomreset.png"));
+    m_resetAllAction = makeAction(this, QStringLiteral(":/image/icon_return.png"));
+    m_rotateAction = makeAction(this, QStringLiteral(":/image/rotate1.png"));
+    m_rotateBackAction = makeAction(this, QStringLiteral(":/image/rotate2.png"));
+
+    connect(m_newAction, &QAction::triggered, this,
+            &FormConfiguration::NewProject_Action_Triggered);
+    connect(m_openAction, &QAction::triggered, this,
+            &FormConfiguration::OpenProject_Action_Triggered);
+    connect(m_saveAction, &QAction::triggered, this,
+            &FormConfiguration::SaveProject_Action_Triggered);
+    connect(m_saveAsAction, &QAction::triggered, this,
+            &FormConfiguration::SaveAsProject_Action_Triggered);
+    connect(m_packageAction, &QAction::triggered, this,
+            &FormConfiguration::PackageManager_Action_Triggered);
+    connect(m_reportAction, &QAction::triggered, this,
+            &FormConfiguration::GenerateReport_Action_Triggered);
+    for (QAction *a : {m_englishAction, m_englishToolAction})
+        connect(a, &QAction::triggered, this, &FormConfiguration::English_Action_Triggered);
+    for (QAction *a : {m_chineseAction, m_chineseToolAction})
+        connect(a, &QAction::triggered, this, &FormConfiguration::Chinese_Action_Triggered);
+    for (QAction *a : {m_generateAction, m_generateToolAction})
+        connect(a, &QAction::triggered, this, &FormConfiguration::GeneralCode_Action_Triggered);
+    connect(m_manualAction, &QAction::triggered, this,
+            &FormConfiguration::OpenManual_Action_Triggered);
+    connect(m_versionAction, &QAction::triggered, this,
+            &FormConfiguration::Version_Action_Triggered);
+    connect(m_downloadAction, &QAction::triggered, this,
+            &FormConfiguration::NewVersionDownload_Triggered);
+    for (QAction *a : {m_homeAction, m_homeToolAction})
+        connect(a, &QAction::triggered, this, &FormConfiguration::GoToHomePage_Triggered);
+
+    // Saving and opening, the package manager, the report, code generation and the version
+    // download arrive with their own subsystems; until then their actions are shown disabled.
+    for (QAction *a : {m_openAction, m_saveAction, m_saveAsAction, m_packageAction, m_reportAction,
+                       m_generateAction, m_generateToolAction, m_downloadAction})
+        a->setEnabled(false);
+    // The drawing's actions work once a design exists.
+    for (QAction *a : {m_zoomInAction, m_zoomOutAction, m_zoomResetAction, m_resetAllAction,
+                       m_rotateAction, m_rotateBackAction})
+        a->setEnabled(false);
+}
+
+void FormConfiguration::createMenus()
+{
+    m_menuBar = new QMenuBar(this);
+    m_menuBar->setFont(QFont(QString::fromLatin1(kArial)));
+
+    m_fileMenu = m_menuBar->addMenu(QString());
+    m_fileMenu->addAction(m_newAction);
+    m_fileMenu->addAction(m_openAction);
+    m_fileMenu->addAction(m_saveAction);
+    m_fileMenu->addAction(m_saveAsAction);
+    m_fileMenu->addSeparator();
+    m_fileMenu->addAction(m_packageAction);
+    m_fileMenu->addSeparator();
+    m_fileMenu->addAction(m_reportAction);
+    m_fileMenu->addSeparator();
+    m_recentMenu = m_fileMenu->addMenu(QString());
+
+    m_languageMenu = m_menuBar->addMenu(QString());
+    m_languageMenu->addAction(m_englishAction);
+    m_languageMenu->addAction(m_chineseAction);
+
+    m_generateMenu = m_menuBar->addMenu(QString());
+    m_generateMenu->addAction(m_generateAction);
+
+    m_helpMenu = m_menuBar->addMenu(QString());
+    m_helpMenu->addAction(m_versionAction);
+    m_helpMenu->addAction(m_downloadAction);
+    m_helpMenu->addAction(m_homeAction);
+    m_helpMenu->addAction(m_manualAction);
+}
+
+void FormConfiguration::refreshRecentMenu()
+{
+    m_recentMenu->clear();
+    for (const QString &path : GetRecentDesigns()) {
+        QAction *entry = m_recentMenu->addAction(path);
+        entry->setFont(QFont(QString::fromLatin1(kArial)));
+        entry->setData(path);
+        connect(entry, &QAction::triggered, this, &FormConfiguration::OpenDesign_List_Clicked);
+        // Opening a design file comes with the design file support.
+        entry->setEnabled(false);
+    }
+    m_recentMenu->setEnabled(!m_recentMenu->isEmpty());
+}
+
+void FormConfiguration::createToolBar()
+{
+    m_toolBar = new QToolBar(this);
+    m_toolBar->setIconSize(QSize(32, 32));
+    m_toolBar->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    m_toolBar->addAction(m_generateToolAction);
+    m_toolBar->addSeparator();
+    m_toolBar->addAction(m_zoomInAction);
+    m_toolBar->addAction(m_zoomOutAction);
+    m_toolBar->addAction(m_zoomResetAction);
+    m_toolBar->addAction(m_rotateAction);
+    m_toolBar->addAction(m_rotateBackAction);
+    m_toolBar->addAction(m_resetAllAction);
+    m_toolBar->addSeparator();
+    m_toolBar->addAction(m_englishToolAction);
+    m_toolBar->addAction(m_chineseToolAction);
+    m_toolBar->addSeparator();
+    m_toolBar->addAction(m_homeToolAction);
+    m_toolBar->addAction(m_downloadAction);
+
+    m_deviceLabel = new QLabel(this);
+    m_deviceLabel->setFont(QFont(QString::fromLatin1(kArial), 14, QFont::Bold));
+    m_deviceLabel->setStyleSheet(QStringLiteral("color: rgb(35, 184, 198);"));
+}
+
+void FormConfiguration::createPages()
+{
+    m_splitter = new QSplitter(Qt::Horizontal, this);
+    m_splitter->setChildrenCollapsible(false);
+    m_splitter->setHandleWidth(4);
+
+    m_pinButton = new QPushButton(this);
+    m_clockButton = new QPushButton(this);
+    m_codeButton = new QPushButton(this);
+    for (QPushButton *b : {m_pinButton, m_clockButton, m_codeButton}) {
+        b->setFont(QFont(QString::fromLatin1(kArial), 11, QFont::Bold));
+        b->setMinimumHeight(32);
+        b->setCursor(Qt::PointingHandCursor);
+    }
+    // The code view arrives with its own subsystem.
+    m_codeButton->setEnabled(false);
+
+    pllPage = new MQ48PLLConfig(this);
+    pllPage->hide();
+    m_codeViewPage = new QWidget(this);
+    m_codeViewPage->hide();
+
+    auto *topRow = new QHBoxLayout;
+    topRow->setContentsMargins(0, 0, 0, 0);
+    topRow->addWidget(m_toolBar);
+    topRow->addStretch(1);
+    topRow->addWidget(m_deviceLabel);
+
+    auto *buttonRow = new QHBoxLayout;
+    buttonRow->setContentsMargins(0, 0, 0, 0);
+    buttonRow->setSpacing(4);
+    buttonRow->addWidget(m_pinButton);
+    buttonRow->addWidget(m_clockButton);
+    buttonRow->addWidget(m_codeButton);
+    buttonRow->addStretch(1);
+
+    m_mainLayout = new QVBoxLayout(this);
+    m_mainLayout->setContentsMargins(4, 0, 4, 4);
+    m_mainLayout->setSpacing(2);
+    m_mainLayout->setMenuBar(m_menuBar);
+    m_mainLayout->addLayout(topRow);
+    m_mainLayout->addLayout(buttonRow);
+    m_mainLayout->addWidget(m_splitter, 1);
+    m_mainLayout->addWidget(pllPage, 1);
+    m_mainLayout->addWidget(m_codeViewPage, 1);
+
+    styleButtons(m_pinButton);
+}
+
+// ----------------------------------------------------------------------------------------
+// Texts
+
+void FormConfiguration::retranslateForm()
+{
+    setWindowTitle(QString::fromLatin1(MQ48_VERSION_TITLE));
+
+    m_newAction->setText(tr("New Design"));
+    m_openAction->setText(tr("Open Design"));
+    m_saveAction->setText(tr("Save Design"));
+    m_saveAsAction->setText(tr("Design Save As"));
+    m_packageAction->setText(tr("Package Manager"));
+    m_reportAction->setText(tr("Generate Report"));
+    m_englishAction->setText(tr("English"));
+    m_englishToolAction->setText(tr("English"));
+    m_chineseAction->setText(tr("Chinese"));
+    m_chineseToolAction->setText(tr("Chinese"));
+    m_generateAction->setText(tr("Generate code"));
+    m_generateToolAction->setText(tr("Generate code"));
+    m_manualAction->setText(tr("Open Manual"));
+    m_versionAction->setText(tr("Version"));
+    m_downloadAction->setText(tr("New version download"));
+    m_homeAction->setText(tr("Go to Velmora home page"));
+    m_homeToolAction->setText(tr("Go to Velmora home page"));
+    m_zoomInAction->setText(tr("Zoom in"));
+    m_zoomOutAction->setText(tr("Zoom out"));
+    m_zoomResetAction->setText(tr("Zoom Reset"));
+    m_resetAllAction->setText(tr("Reset All Configurations"));
+    m_rotateAction->setText(tr("Clockwise rotate"));
+    m_rotateBackAction->setText(tr("Anti-clockwise rotate"));
+
+    m_fileMenu->setTitle(tr("File"));
+    m_recentMenu->setTitle(tr("Resent Design"));
+    m_languageMenu->setTitle(tr("Language"));
+    m_generateMenu->setTitle(tr("Generate code"));
+    m_helpMenu->setTitle(tr("Help"));
+
+    m_pinButton->setText(tr("Pin out & Configuration"));
+    m_clockButton->setText(tr("Clock Configuration"));
+    m_codeButton->setText(tr("Code View"));
+}
+
+void FormConfiguration::retranslateMenu()
+{
+    retranslateForm();
+    refreshRecentMenu();
+    updateLanguageActions();
+}
+
+void FormConfiguration::updateLanguageActions()
+{
+    const bool chinese = g_language == 1;
+    m_chineseAction->setChecked(chinese);
+    m_chineseToolAction->setChecked(chinese);
+    m_englishAction->setChecked(!chinese);
+    m_englishToolAction->setChecked(!chinese);
+    m_chineseToolAction->setIcon(QIcon(chinese ? QStringLiteral(":/image/icon_ZH02.png")
+                                               : QStringLiteral(":/image/icon_ZH01.png")));
+    m_englishToolAction->setIcon(QIcon(chinese ? QStringLiteral(":/image/icon_EN01.png")
+                                               : QStringLiteral(":/image/icon_EN02.png")));
+}
+
+// ----------------------------------------------------------------------------------------
+// Building and tearing down a design
+
+bool FormConfiguration::buildDesign(const QString &series, const QString &device,
+                                    const QString &package)
+{
+    // Without a device there is nothing to build; the open design, if any, stays.
+    if (m_building || device.trimmed().isEmpty())
+        return false;
+    m_building = true;
+    tearDownDesign();
+
+    DesignLoader loader;
+    loader.load(series, device, package, &m_design);
+
+    m_deviceLabel->setText(QStringLiteral("  ") + m_design.mcuName + QStringLiteral("  "));
+    pllPage->setMcuModel(m_design.clockModel);
+
+    buildPanels();
+
+    setButtonWarning(m_pinButton, false);
+    setButtonWarning(m_clockButton, false);
+    setButtonWarning(m_codeButton, false);
+    designOpen = true;
+    showPinPage();
+    m_building = false;
+    return true;
+}
+
+void FormConfiguration::buildPanels()
+{
+    QRect screen(0, 0, 1920, 1080);
+    if (QScreen *primary = QGuiApplication::primaryScreen())
+        screen = primary->availableGeometry();
+
+    // The peripheral tree arrives with the peripheral panels; its column stands ready.
+    m_treeColumn = new QWidget;
+    m_treeColumn->hide();
+    m_splitter->addWidget(m_treeColumn);
+
+    chipView = new ChipView(m_design.devicePinInfo);
+
+    QProgressDialog progress(tr("Loading......"), QString(), 0, m_design.peripheralList.size(),
+                             this);
+    progress.setWindowTitle(tr("MQ48 Pin Forge"));
+    progress.setFont(QFont(QString::fromLatin1(kArial)));
+    progress.setStyleSheet(QStringLiteral("QProgressDialog {border-image: url(:/image/PPT "
+                                          "cover.png);}"));
+    progress.setWindowModality(Qt::ApplicationModal);
+    progress.setMinimumDuration(0);
+    progress.setValue(0);
+    QCoreApplication::processEvents();
+
+    int done = 0;
+    for (const PeripheralListItem &row : m_design.peripheralList) {
+        if (!DesignLoader::isSystemBlock(row.InstanceName)) {
+            // One mode panel per ordinary peripheral plugs in here, wired by the relay table.
+        }
+        progress.setValue(++done);
+        QCoreApplication::processEvents();
+    }
+    // Then the GPIO panel, one DMA panel per entry of dmaTrees, and the NVIC panel.
+
+    connect(chipView, &ChipView::SendAllConfigedSignals, this,
+            &FormConfiguration::ReciveAllConfigedSignals);
+    connect(this, &FormConfiguration::SendIPPinSignals_ToChipView, chipView,
+            &ChipView::ReciveIPPinSignals);
+    connect(this, &FormConfiguration::ClearIPPinSignals_ToChipView, chipView,
+            &ChipView::ReciveClearIPPinSignals);
+
+    m_panelArea = new QWidget;
+    m_splitter->addWidget(chipView);
+    m_splitter->addWidget(m_panelArea);
+    m_splitter->setSizes(WorkFormRules::splitterSizes(screen.width()));
+    m_treeColumn->show();
+
+    connect(m_zoomInAction, &QAction::triggered, chipView, &ChipView::ZoomIn);
+    connect(m_zoomOutAction, &QAction::triggered, chipView, &ChipView::ZoomOut);
+    connect(m_zoomResetAction, &QAction::triggered, chipView, &ChipView::ZoomReset);
+    connect(m_rotateAction, &QAction::triggered, chipView, &ChipView::Rotated_Clockwise);
+    connect(m_rotateBackAction, &QAction::triggered, chipView, &ChipView::Rotated_AnitClockwise);
+    connect(m_resetAllAction, &QAction::triggered, this, &FormConfiguration::AllConfigReset);
+    for (QAction *a : {m_zoomInAction, m_zoomOutAction, m_zoomResetAction, m_resetAllAction,
+                       m_rotateAction, m_rotateBackAction})
+        a->setEnabled(true);
+}
+
+void FormConfiguration::tearDownDesign()
+{
+    for (QAction *a : {m_zoomInAction, m_zoomOutAction, m_zoomResetAction, m_resetAllAction,
+                       m_rotateAction, m_rotateBackAction}) {
+        if (!a)
+            continue;
+        a->disconnect(chipView);
+        a->disconnect(this);
+        a->setEnabled(false);
+    }
+    if (chipView) {
+        chipView->disconnect(this);
+        disconnect(this, nullptr, chipView, nullptr);
+    }
+    for (QWidget *panel : qAsConst(m_panelsByName)) {
+        panel->disconnect(this);
+        delete panel;
+    }
+    m_panelsByName.clear();
+    m_modePanelStatus.clear();
+    delete m_panelArea;
+    m_panelArea = nullptr;
+    delete chipView;
+    chipView = nullptr;
+    delete m_treeColumn;
+    m_treeColumn = nullptr;
+
+    m_design.clear();
+    designPath.clear();
+    designOpen = false;
+}
+
+// ----------------------------------------------------------------------------------------
+// Pages
+
+void FormConfiguration::styleButtons(QPushButton *active)
+{
+    for (QPushButton *b : {m_pinButton, m_clockButton, m_codeButton})
+        b->setStyleSheet(WorkFormRules::pageButtonStyle(b == active));
+}
+
+void FormConfiguration::setButtonWarning(QPushButton *button, bool warn)
+{
+    button->setIcon(warn ? QIcon(QStringLiteral(":/image/danger32.png")) : QIcon());
+    button->setProperty("warning", warn);
+}
+
+void FormConfiguration::showPinPage()
+{
+    m_splitter->show();
+    pllPage->hide();
+    m_codeViewPage->hide();
+    styleButtons(m_pinButton);
+}
+
+void FormConfiguration::PINConfig_PushButton_Clicked()
+{
+    showPinPage();
+}
+
+void FormConfiguration::ClockConfig_PushButton_Clicked()
+{
+    m_splitter->hide();
+    m_codeViewPage->hide();
+    pllPage->show();
+    styleButtons(m_clockButton);
+}
+
+void FormConfiguration::CodeView_PushButton_Clicked()
+{
+    // The checks of the generate flow and the code view come with code generation; the
+    // button stays disabled until then.
+}
+
+// ----------------------------------------------------------------------------------------
+// File menu
+
+bool FormConfiguration::saveDesign()
+{
+    tell(this, QMessageBox::Information, tr("Information"),
+         tr("Saving a design is not available in this version. The design stays open."));
     return false;
 }
 
-void FormConfiguration::retranslateMenu() {}
+bool FormConfiguration::askSaveBeforeLeaving(const QString &question)
+{
+    QString yes = tr("Yes1");
+    if (yes == QLatin1String("Yes1"))
+        yes = tr("Yes");
+    const int answer = askUser(this, QMessageBox::Question, tr("Question"), question,
+                               {yes, tr("No"), tr("Cancel")});
+    if (answer == 0)
+        return saveDesign();
+    return answer == 1;
+}
+
+void FormConfiguration::NewProject_Action_Triggered()
+{
+    if (designOpen &&
+        !askSaveBeforeLeaving(tr("The current design will be closed before creating a new "
+                                 "design. Would you like to save the design?")))
+        return;
+    New_Design_Select dialog(this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    buildDesign(dialog.getSerial(), dialog.getDevice(), dialog.getPackage());
+}
+
+void FormConfiguration::OpenProject_Action_Triggered()
+{
+}
+
+void FormConfiguration::SaveProject_Action_Triggered()
+{
+    saveDesign();
+}
+
+void FormConfiguration::SaveAsProject_Action_Triggered()
+{
+    saveDesign();
+}
+
+void FormConfiguration::PackageManager_Action_Triggered()
+{
+}
+
+void FormConfiguration::GenerateReport_Action_Triggered()
+{
+}
+
+void FormConfiguration::GeneralCode_Action_Triggered()
+{
+}
+
+void FormConfiguration::NewVersionDownload_Triggered()
+{
+}
+
+void FormConfiguration::OpenDesign_List_Clicked()
+{
+    auto *entry = qobject_cast<QAction *>(sender());
+    const QString path = entry ? entry->data().toString() : QString();
+    if (path.isEmpty())
+        return;
+    if (designOpen &&
+        !askSaveBeforeLeaving(
+            tr("The current design will be closed. Would you like to save the design?")))
+        return;
+    if (askUser(this, QMessageBox::Information, tr("Information"),
+                tr("Are you sure to open this design file?"), {tr("Yes"), tr("Cancel")}) != 0)
+        return;
+    if (!QFile::exists(path)) {
+        tell(this, QMessageBox::Critical, tr("Error"), tr("File is not exists!"));
+        return;
+    }
+}
+
+// ----------------------------------------------------------------------------------------
+// Help menu
+
+void FormConfiguration::OpenManual_Action_Triggered()
+{
+    const QString path = WorkFormRules::manualPath(appFolder(), g_language);
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
+        tell(this, QMessageBox::Critical, tr("Error"), tr("Can't open manual!"));
+}
+
+void FormConfiguration::Version_Action_Triggered()
+{
+    VersionAbout about(this);
+    about.exec();
+}
+
+void FormConfiguration::GoToHomePage_Triggered()
+{
+    QDesktopServices::openUrl(WorkFormRules::homePageUrl(g_language));
+}
+
+// ----------------------------------------------------------------------------------------
+// Language
+
+void FormConfiguration::English_Action_Triggered()
+{
+    if (g_language == 0) {
+        updateLanguageActions();
+        return;
+    }
+    if (askUser(this, QMessageBox::Question, tr("Question"),
+                tr("Are you sure to switch language?"), {tr("Yes"), tr("Cancel")}) != 0) {
+        updateLanguageActions();
+        return;
+    }
+    switchLanguage(0);
+}
+
+void FormConfiguration::Chinese_Action_Triggered()
+{
+    if (g_language == 1) {
+        updateLanguageActions();
+        return;
+    }
+    if (askUser(this, QMessageBox::Question, tr("Question"),
+                tr("Are you sure to switch language?"), {tr("Yes"), tr("Cancel")}) != 0) {
+        updateLanguageActions();
+        return;
+    }
+    switchLanguage(1);
+}
+
+void FormConfiguration::switchLanguage(int language)
+{
+    QTranslator *translator = m_translator;
+    if (!translator) {
+        if (!m_ownTranslator)
+            m_ownTranslator = new QTranslator(this);
+        translator = m_ownTranslator;
+    }
+    QCoreApplication::removeTranslator(translator);
+    if (translator->load(LanguageCatalogue(language)))
+        QCoreApplication::installTranslator(translator);
+    g_language = language;
+
+    // The form's own texts, then the clock page and the drawing; the project manager, the
+    // tree, the code view and the peripheral panels re-label here once they exist.
+    retranslateForm();
+    pllPage->retranslate();
+    if (chipView) {
+        chipView->retranslateUi();
+        chipView->searchBox()->setCurrentIndex(-1);
+        chipView->searchBox()->clearEditText();
+    }
+    refreshRecentMenu();
+    updateLanguageActions();
+
+    StoreLanguageSetting(ConfigFilePath(), language);
+}
+
+// ----------------------------------------------------------------------------------------
+// Reset
+
+void FormConfiguration::AllConfigReset()
+{
+    if (!designOpen)
+        return;
+    if (askUser(this, QMessageBox::Warning, tr("Warning"),
+                tr("The current all configurations will be reset. Please confirm whether to "
+                   "continue?"),
+                {tr("Yes"), tr("Cancel")}) != 0)
+        return;
+
+    QProgressDialog progress(tr("Loading......"), QString(), 0, 3, this);
+    progress.setWindowTitle(tr("MQ48 Pin Forge"));
+    progress.setFont(QFont(QString::fromLatin1(kArial)));
+    progress.setWindowModality(Qt::ApplicationModal);
+    progress.setMinimumDuration(0);
+
+    chipView->AllConfigReset();
+    progress.setValue(1);
+    QCoreApplication::processEvents();
+    // The DMA panels, then each mode panel with its first update, reset here once they exist.
+    m_design.rebuildGpioRows();
+    progress.setValue(2);
+    QCoreApplication::processEvents();
+    // Setting the model again gives the clock page a fresh tree at its defaults.
+    pllPage->setMcuModel(m_design.clockModel);
+    progress.setValue(3);
+    showPinPage();
+    progress.close();
+
+    tell(this, QMessageBox::Information, tr("Information"), tr("Reset succeed!"));
+}
+
+// ----------------------------------------------------------------------------------------
+// Relay table
+
+void FormConfiguration::ReciveIPPinSignals_FormIP(QList<ModeSignal> ipAllPinSignals,
+                                                  QList<ModeSignal> ipValidPinSignals,
+                                                  bool updateControlFlag, QString sendIPName)
+{
+    emit SendIPPinSignals_ToChipView(ipAllPinSignals, ipValidPinSignals, updateControlFlag,
+                                     sendIPName);
+}
+
+void FormConfiguration::ReciveClearIPPinSignals_FormIP(QList<ModeSignal> ipAllPinSignals,
+                                                       bool updateControlFlag, QString sendIPName)
+{
+    emit ClearIPPinSignals_ToChipView(ipAllPinSignals, updateControlFlag, sendIPName);
+}
+
+void FormConfiguration::ReceiveIPStatusFlag(QString ipName, IPSTATUS statusFlag,
+                                            bool UpdateClockConfigFlag)
+{
+    if (!ipName.contains(QLatin1String("DMA"))) {
+        if (ipName != QLatin1String("GPIO") && ipName != QLatin1String("NVIC"))
+            m_modePanelStatus.insert(ipName, statusFlag);
+        setButtonWarning(m_pinButton, WorkFormRules::pinPageWarns(statusFlag, m_modePanelStatus));
+    }
+    if (UpdateClockConfigFlag && WorkFormRules::changeUpdatesClock(ipName))
+        pllPage->setPeripheralClockGate(ipName, (statusFlag & IPSTATUS_ACTIVE) != 0);
+}
+
+void FormConfiguration::ReceivePerpheralsGPIOSettingChangeSignals(QString instanceName,
+                                                                  QString signalName)
+{
+    Q_UNUSED(instanceName)
+    Q_UNUSED(signalName)
+    // The GPIO panel, then the mode panel of the instance, are told here once they exist.
+}
+
+void FormConfiguration::ReceivePerpheralsDMARequestChangeSignals()
+{
+    // Each DMA panel and each mode panel refresh here once they exist.
+}
+
+void FormConfiguration::ReceiveSemaphore_From_OtherIP(QString ipInstanceName,
+                                                      QStringList SemaphoreName, bool validFlag)
+{
+    Q_UNUSED(ipInstanceName)
+    Q_UNUSED(SemaphoreName)
+    Q_UNUSED(validFlag)
+    // Routed to the mode panels of the family's pairs once the mode panels exist.
+}
+
+void FormConfiguration::ReceiveParamList_From_OtherIP(QList<RefParameter> RefParameterList,
+                                                      QString IPName)
+{
+    Q_UNUSED(RefParameterList)
+    Q_UNUSED(IPName)
+    // Passed on to the mode panels once they exist.
+}
+
+void FormConfiguration::ReceiveRefreshNVIC(QString sendIpInstanceName)
+{
+    Q_UNUSED(sendIpInstanceName)
+    // The NVIC panel refreshes the instance's rows here once it exists.
+}
+
+void FormConfiguration::ReceiveLextFlag(bool EnableFlag, bool bypassFlag)
+{
+    pllPage->setLext(EnableFlag, bypassFlag);
+}
+
+void FormConfiguration::ReceiveHextFlag(bool EnableFlag, bool bypassFlag)
+{
+    pllPage->setHext(EnableFlag, bypassFlag);
+}
+
+void FormConfiguration::ReceiveClockOutPin(int pinNum)
+{
+    pllPage->setClockOutPin(pinNum);
+}
+
+void FormConfiguration::ReceiveClockOut1Pin(int pinNum)
+{
+    pllPage->setClockOut1Pin(pinNum);
+}
+
+void FormConfiguration::ReceiveClockOut2Pin(int pinNum)
+{
+    pllPage->setClockOut2Pin(pinNum);
+}
+
+void FormConfiguration::ReceiveSingleGPIOSettingChangeSignals(QString instanceName)
+{
+    Q_UNUSED(instanceName)
+}
+
+void FormConfiguration::ReceiveSingleDMARequestInfoChangeSignals()
+{
+}
+
+void FormConfiguration::ReciveAllConfigedSignals(DevicePinInfo *devicePinInfo,
+                                                 bool updateControlFlag, QString sendIPName)
+{
+    Q_UNUSED(devicePinInfo)
+    Q_UNUSED(updateControlFlag)
+    Q_UNUSED(sendIPName)
+    m_design.rebuildGpioRows();
+}
+
+void FormConfiguration::GetSelectIPName(QString ipName)
+{
+    QWidget *chosen = m_panelsByName.value(ipName);
+    if (!chosen && ipName == QLatin1String("DMA"))
+        chosen = m_panelsByName.value(QStringLiteral("EDMA"));
+    for (QWidget *panel : qAsConst(m_panelsByName))
+        panel->setVisible(panel == chosen);
+}
+
+void FormConfiguration::ReciveClockHaveErrorSignal(bool errorFlag)
+{
+    setButtonWarning(m_clockButton, errorFlag);
+}
+
+// ----------------------------------------------------------------------------------------
+// Closing
+
+void FormConfiguration::closeEvent(QCloseEvent *event)
+{
+    if (designOpen &&
+        !askSaveBeforeLeaving(
+            tr("The current design will be closed. Would you like to save the design?"))) {
+        event->ignore();
+        return;
+    }
+    const QString scratch = databaseFolder() + QStringLiteral("/CodeView");
+    if (QFileInfo(scratch).isDir())
+        QDir(scratch).removeRecursively();
+    event->accept();
+    hide();
+    emit formClosed();
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "database/records.h"
+
+#include <QString>
+
+// Texts shown for a device of the catalogue, shared by the start page and the new-design
+// dialog.
+
+// The SRAM field: SRAM as it stands, or "Default: <SRAM>    Max: <MaxSRAM>" when the size
+// can be changed. The two words are translated.
+QString SramSizeText(const MCUListItem &device);
+
+// The description page of a series in the current language:
+// <series folder>/<series>_Info_EN.htm, or _Info_CH.htm when `language` is 1.
+QString SeriesInfoPagePath(const QString &series, int language);
