@@ -382,8 +382,8 @@ void FormConfiguration::updateLanguageActions()
 bool FormConfiguration::buildDesign(const QString &series, const QString &device,
                                     const QString &package)
 {
-    // Without a device there is nothing to build; the open design, if any, stays.
-    if (m_building || device.trimmed().isEmpty())
+    // An empty selection (an empty catalogue) still opens, as an empty package.
+    if (m_building)
         return false;
     m_building = true;
     tearDownDesign();
