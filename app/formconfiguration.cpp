@@ -9,6 +9,10 @@
 #include "clock/mq48pllconfig.h"
 #include "database/language.h"
 #include "database/paths.h"
+#include "peripherals/ip_modeandconfiguration.h"
+#include "peripherals/modefamilytables.h"
+#include "peripherals/peripheralsconfig.h"
+#include "peripherals/procheckbox.h"
 #include "pinout/chipview.h"
 
 #include <QAction>
@@ -351,7 +355,9 @@ void FormConfiguration::retranslateForm()
     m_generateMenu->setTitle(tr("Generate code"));
     m_helpMenu->setTitle(tr("Help"));
 
-    m_pinButton->setText(tr("Pin out & Configuration"));
+    // A single '&' would make a mnemonic of the next letter; doubling it shows it as text.
+    m_pinButton->setText(
+        tr("Pin out & Configuration").replace(QLatin1Char('&'), QStringLiteral("&&")));
     m_clockButton->setText(tr("Clock Configuration"));
     m_codeButton->setText(tr("Code View"));
 }
@@ -411,10 +417,11 @@ void FormConfiguration::buildPanels()
     if (QScreen *primary = QGuiApplication::primaryScreen())
         screen = primary->availableGeometry();
 
-    // The peripheral tree arrives with the peripheral panels; its column stands ready.
-    m_treeColumn = new QWidget;
-    m_treeColumn->hide();
-    m_splitter->addWidget(m_treeColumn);
+    peripheralsConfig = new PeripheralsConfig(m_design.peripheralList);
+    peripheralsConfig->hide();
+    m_splitter->addWidget(peripheralsConfig);
+    connect(peripheralsConfig, &PeripheralsConfig::SendIPName, this,
+            &FormConfiguration::GetSelectIPName);
 
     chipView = new ChipView(m_design.devicePinInfo);
 
@@ -429,10 +436,15 @@ void FormConfiguration::buildPanels()
     progress.setValue(0);
     QCoreApplication::processEvents();
 
+    m_panelArea = new QWidget;
+    auto *panelLayout = new QVBoxLayout(m_panelArea);
+    panelLayout->setContentsMargins(0, 0, 0, 0);
+
     int done = 0;
     for (const PeripheralListItem &row : m_design.peripheralList) {
         if (!DesignLoader::isSystemBlock(row.InstanceName)) {
-            // One mode panel per ordinary peripheral plugs in here, wired by the relay table.
+            IP_ModeAndConfiguration *panel = createModePanel(row);
+            panelLayout->addWidget(panel);
         }
         progress.setValue(++done);
         QCoreApplication::processEvents();
@@ -446,11 +458,12 @@ void FormConfiguration::buildPanels()
     connect(this, &FormConfiguration::ClearIPPinSignals_ToChipView, chipView,
             &ChipView::ReciveClearIPPinSignals);
 
-    m_panelArea = new QWidget;
     m_splitter->addWidget(chipView);
     m_splitter->addWidget(m_panelArea);
     m_splitter->setSizes(WorkFormRules::splitterSizes(screen.width()));
-    m_treeColumn->show();
+    peripheralsConfig->show();
+    for (IP_ModeAndConfiguration *panel : qAsConst(ipPanels))
+        panel->UpdateAllConfigedSignals(m_design.devicePinInfo, false, panel->instanceName());
 
     connect(m_zoomInAction, &QAction::triggered, chipView, &ChipView::ZoomIn);
     connect(m_zoomOutAction, &QAction::triggered, chipView, &ChipView::ZoomOut);
@@ -461,6 +474,73 @@ void FormConfiguration::buildPanels()
     for (QAction *a : {m_zoomInAction, m_zoomOutAction, m_zoomResetAction, m_resetAllAction,
                        m_rotateAction, m_rotateBackAction})
         a->setEnabled(true);
+}
+
+IP_ModeAndConfiguration *FormConfiguration::createModePanel(const PeripheralListItem &row)
+{
+    auto *panel = new IP_ModeAndConfiguration(row, m_design.gpioTree, m_design.mcuName,
+                                              m_design.series, m_design.devicePinInfo);
+    panel->hide();
+    using P = IP_ModeAndConfiguration;
+    connect(panel, &P::SendIPPinSignals, this, &FormConfiguration::ReciveIPPinSignals_FormIP);
+    connect(panel, &P::ClearIPPinSignals, this,
+            &FormConfiguration::ReciveClearIPPinSignals_FormIP);
+    connect(panel, &P::SendPinRemapFlag, chipView, &ChipView::ReceivePinRemapFlag);
+    connect(panel, &P::SendGPIOQuerySignals, chipView, &ChipView::ReceiveGPIOQuerySignals);
+    connect(panel, &P::SendGPIOSignalsUserLabelChange, chipView,
+            &ChipView::ReceiveGPIOSignalsUserLabelChange);
+    connect(panel, &P::SendIPStatusFlag, this, &FormConfiguration::ReceiveIPStatusFlag);
+    connect(panel, &P::SendGPIOSettingChangeSignals1, this,
+            &FormConfiguration::ReceivePerpheralsGPIOSettingChangeSignals);
+    connect(panel, &P::SendDMARequestChangeSignals, this,
+            &FormConfiguration::ReceivePerpheralsDMARequestChangeSignals);
+    connect(panel, &P::EnableSemaphore_To_OtherIP, this,
+            &FormConfiguration::ReceiveSemaphore_From_OtherIP);
+    connect(panel, &P::SendParamList_To_OtherIP, this,
+            &FormConfiguration::ReceiveParamList_From_OtherIP);
+    connect(panel, &P::SendRefreshNVIC, this, &FormConfiguration::ReceiveRefreshNVIC);
+    if (row.InstanceName == QLatin1String("CRM")) {
+        connect(panel, &P::SendLextFlag, this, &FormConfiguration::ReceiveLextFlag);
+        connect(panel, &P::SendHextFlag, this, &FormConfiguration::ReceiveHextFlag);
+        connect(panel, &P::SendClockOutPin, this, &FormConfiguration::ReceiveClockOutPin);
+        connect(panel, &P::SendClockOut1Pin, this, &FormConfiguration::ReceiveClockOut1Pin);
+        connect(panel, &P::SendClockOut2Pin, this, &FormConfiguration::ReceiveClockOut2Pin);
+    }
+    if (ModeFamilyTables::isUsbClockFamily(m_design.series))
+        connect(pllPage, &MQ48PLLConfig::SendUSBClockSourceChangeSignal, panel,
+                &P::ReciveUSBClockSourceChangeSignal);
+    if (row.InstanceName == QLatin1String("I2SF5") &&
+        (m_design.series == QLatin1String("MQ48T220") ||
+         m_design.series == QLatin1String("MQ48T210")))
+        connect(pllPage, &MQ48PLLConfig::SendI2SF5ClockSourceChangeSignal, panel,
+                &P::ReciveI2SF5ClockSourceChangeSignal);
+
+    ipPanels << panel;
+    m_panelsByName.insert(row.InstanceName, panel);
+    return panel;
+}
+
+IP_ModeAndConfiguration *FormConfiguration::modePanel(const QString &instanceName) const
+{
+    for (IP_ModeAndConfiguration *panel : ipPanels) {
+        if (panel->instanceName() == instanceName)
+            return panel;
+    }
+    return nullptr;
+}
+
+QWidget *FormConfiguration::shownPanel() const
+{
+    for (QWidget *panel : m_panelsByName) {
+        if (!panel->isHidden())
+            return panel;
+    }
+    return nullptr;
+}
+
+bool FormConfiguration::pinPageWarning() const
+{
+    return m_pinButton->property("warning").toBool();
 }
 
 void FormConfiguration::tearDownDesign()
@@ -477,18 +557,24 @@ void FormConfiguration::tearDownDesign()
         chipView->disconnect(this);
         disconnect(this, nullptr, chipView, nullptr);
     }
-    for (QWidget *panel : qAsConst(m_panelsByName)) {
-        panel->disconnect(this);
-        delete panel;
+    if (pllPage) {
+        for (IP_ModeAndConfiguration *panel : qAsConst(ipPanels))
+            pllPage->disconnect(panel);
     }
+    // Every panel goes quiet before any is deleted, so a dying panel reaches no other.
+    for (QWidget *panel : qAsConst(m_panelsByName))
+        panel->disconnect();
+    for (QWidget *panel : qAsConst(m_panelsByName))
+        delete panel;
     m_panelsByName.clear();
+    ipPanels.clear();
     m_modePanelStatus.clear();
     delete m_panelArea;
     m_panelArea = nullptr;
     delete chipView;
     chipView = nullptr;
-    delete m_treeColumn;
-    m_treeColumn = nullptr;
+    delete peripheralsConfig;
+    peripheralsConfig = nullptr;
 
     m_design.clear();
     designPath.clear();
@@ -685,9 +771,11 @@ void FormConfiguration::switchLanguage(int language)
         QCoreApplication::installTranslator(translator);
     g_language = language;
 
-    // The form's own texts, then the clock page and the drawing; the project manager, the
-    // tree, the code view and the peripheral panels re-label here once they exist.
+    // The form's own texts, the tree, the clock page, the drawing, then the mode panels; the
+    // project manager, the code view and the system panels re-label here once they exist.
     retranslateForm();
+    if (peripheralsConfig)
+        peripheralsConfig->retranslateUi();
     pllPage->retranslate();
     if (chipView) {
         chipView->retranslateUi();
@@ -695,6 +783,8 @@ void FormConfiguration::switchLanguage(int language)
         chipView->searchBox()->clearEditText();
     }
     refreshRecentMenu();
+    for (IP_ModeAndConfiguration *panel : qAsConst(ipPanels))
+        panel->retranslateUi();
     updateLanguageActions();
 
     StoreLanguageSetting(ConfigFilePath(), language);
@@ -722,7 +812,9 @@ void FormConfiguration::AllConfigReset()
     chipView->AllConfigReset();
     progress.setValue(1);
     QCoreApplication::processEvents();
-    // The DMA panels, then each mode panel with its first update, reset here once they exist.
+    // The DMA panels reset here once they exist; each mode panel runs its first update again.
+    for (IP_ModeAndConfiguration *panel : qAsConst(ipPanels))
+        panel->UpdateAllConfigedSignals(m_design.devicePinInfo, false, panel->instanceName());
     m_design.rebuildGpioRows();
     progress.setValue(2);
     QCoreApplication::processEvents();
@@ -762,6 +854,8 @@ void FormConfiguration::ReceiveIPStatusFlag(QString ipName, IPSTATUS statusFlag,
     }
     if (UpdateClockConfigFlag && WorkFormRules::changeUpdatesClock(ipName))
         pllPage->setPeripheralClockGate(ipName, (statusFlag & IPSTATUS_ACTIVE) != 0);
+    if (peripheralsConfig)
+        peripheralsConfig->ReceiveIPStatusFlag(ipName, statusFlag, UpdateClockConfigFlag);
 }
 
 void FormConfiguration::ReceivePerpheralsGPIOSettingChangeSignals(QString instanceName,
@@ -774,16 +868,28 @@ void FormConfiguration::ReceivePerpheralsGPIOSettingChangeSignals(QString instan
 
 void FormConfiguration::ReceivePerpheralsDMARequestChangeSignals()
 {
-    // Each DMA panel and each mode panel refresh here once they exist.
+    // Each DMA panel refreshes here once it exists. The mode panels read their conditions
+    // directly: their own request slot would send the change back here.
+    for (IP_ModeAndConfiguration *panel : qAsConst(ipPanels))
+        panel->UpdateDMACondition();
 }
 
 void FormConfiguration::ReceiveSemaphore_From_OtherIP(QString ipInstanceName,
                                                       QStringList SemaphoreName, bool validFlag)
 {
-    Q_UNUSED(ipInstanceName)
-    Q_UNUSED(SemaphoreName)
-    Q_UNUSED(validFlag)
-    // Routed to the mode panels of the family's pairs once the mode panels exist.
+    const QStringList targets = WorkFormRules::semaphoreTargets(m_design.series, ipInstanceName);
+    const bool usbFamily = ModeFamilyTables::isUsbClockFamily(m_design.series);
+    for (IP_ModeAndConfiguration *panel : qAsConst(ipPanels)) {
+        const QString name = panel->instanceName();
+        if (name == ipInstanceName || !targets.contains(name))
+            continue;
+        panel->ReceiveSemaphoreFromOtherIP(SemaphoreName, validFlag);
+        if (usbFamily && name == QLatin1String("ACC") && !panel->checkBoxes().isEmpty()) {
+            ProCheckBox *first = panel->checkBoxes().first();
+            first->setChecked(first->isEnabled());
+        }
+        panel->update();
+    }
 }
 
 void FormConfiguration::ReceiveParamList_From_OtherIP(QList<RefParameter> RefParameterList,
@@ -791,7 +897,8 @@ void FormConfiguration::ReceiveParamList_From_OtherIP(QList<RefParameter> RefPar
 {
     Q_UNUSED(RefParameterList)
     Q_UNUSED(IPName)
-    // Passed on to the mode panels once they exist.
+    // A mode panel answers a list by sending one out again, so handing lists to the panels
+    // would bounce them back here; the lists stop at the form.
 }
 
 void FormConfiguration::ReceiveRefreshNVIC(QString sendIpInstanceName)
@@ -837,9 +944,10 @@ void FormConfiguration::ReceiveSingleDMARequestInfoChangeSignals()
 void FormConfiguration::ReciveAllConfigedSignals(DevicePinInfo *devicePinInfo,
                                                  bool updateControlFlag, QString sendIPName)
 {
-    Q_UNUSED(devicePinInfo)
-    Q_UNUSED(updateControlFlag)
-    Q_UNUSED(sendIPName)
+    for (IP_ModeAndConfiguration *panel : qAsConst(ipPanels)) {
+        if (panel->instanceName() != sendIPName)
+            panel->ReciveAllConfigedSignals(devicePinInfo, updateControlFlag, sendIPName);
+    }
     m_design.rebuildGpioRows();
 }
 

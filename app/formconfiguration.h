@@ -10,7 +10,9 @@
 #include <QWidget>
 
 class ChipView;
+class IP_ModeAndConfiguration;
 class MQ48PLLConfig;
+class PeripheralsConfig;
 class QAction;
 class QCloseEvent;
 class QHBoxLayout;
@@ -46,6 +48,14 @@ public:
     QString currentDesignPath() const { return designPath; }
     ChipView *chipDrawing() const { return chipView; }
     MQ48PLLConfig *clockPage() const { return pllPage; }
+    PeripheralsConfig *peripheralsTree() const { return peripheralsConfig; }
+    // The mode panels of the design, in peripheral list order.
+    const QList<IP_ModeAndConfiguration *> &modePanels() const { return ipPanels; }
+    // The mode panel of an instance, or nullptr.
+    IP_ModeAndConfiguration *modePanel(const QString &instanceName) const;
+    // The panel the tree has put on show, or nullptr.
+    QWidget *shownPanel() const;
+    bool pinPageWarning() const;
     // The last status reported by each mode panel, by instance name.
     QMap<QString, IPSTATUS> panelStatus() const { return m_modePanelStatus; }
 
@@ -125,6 +135,7 @@ private:
     void setButtonWarning(QPushButton *button, bool warn);
     void tearDownDesign();
     void buildPanels();
+    IP_ModeAndConfiguration *createModePanel(const PeripheralListItem &row);
     void showPinPage();
     // Asks whether to save before the design goes; false when the user cancels or saving
     // didn't happen.
@@ -140,7 +151,8 @@ private:
 
     // Widgets of the design, rebuilt for each design.
     ChipView *chipView = nullptr;
-    QWidget *m_treeColumn = nullptr;
+    PeripheralsConfig *peripheralsConfig = nullptr;
+    QList<IP_ModeAndConfiguration *> ipPanels;
     QWidget *m_panelArea = nullptr;
     // Every panel of the design by the name the tree selects it with.
     QMap<QString, QWidget *> m_panelsByName;

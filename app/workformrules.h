@@ -4,6 +4,7 @@
 
 #include <QMap>
 #include <QString>
+#include <QStringList>
 #include <QUrl>
 
 // Decisions of the work form that depend only on names, the language and plain values, kept
@@ -18,6 +19,9 @@ bool changeUpdatesClock(const QString &instanceName);
 
 // True when a status word carries the mark of an unfinished selection.
 bool isUnfinished(IPSTATUS status);
+
+// The instances a semaphore of `sender` reaches on a family; empty when none.
+QStringList semaphoreTargets(const QString &series, const QString &sender);
 
 // Whether the "Pin out & Configuration" button warns, given the status of the panel that just
 // reported and the last status of every mode panel by instance name.

@@ -5,6 +5,7 @@
 #include "common/testsupport.h"
 #include "database/language.h"
 #include "database/paths.h"
+#include "peripherals/peripheralmessage.h"
 #include "pinout/chipview.h"
 
 #include <QAbstractButton>
@@ -50,9 +51,12 @@ public:
         }
         setAppFolderOverride(m_dir.path());
         g_language = 0;
+        // The fixture's peripherals have no mode files; their panels say so through the sink.
+        setPeripheralMessageSink([](const QString &, const QString &) {});
     }
     ~WorkFolder()
     {
+        setPeripheralMessageSink({});
         setAppFolderOverride(QString());
         g_language = m_language;
     }
@@ -167,7 +171,8 @@ QMenu *menuByTitle(const FormConfiguration &form, const QString &title)
 QPushButton *buttonByText(const FormConfiguration &form, const QString &text)
 {
     for (QPushButton *button : form.findChildren<QPushButton *>()) {
-        if (button->text() == text)
+        // Buttons show a literal '&' as "&&".
+        if (button->text().replace(QStringLiteral("&&"), QStringLiteral("&")) == text)
             return button;
     }
     return nullptr;

@@ -163,3 +163,24 @@ TEST(WorkFormRules, ManualAndHomePageFollowTheLanguage)
 }
 
 } // namespace
+
+TEST(WorkFormRules, SemaphoresTravelOnlyAlongTheFamilysPairs)
+{
+    using WorkFormRules::semaphoreTargets;
+    // Pairs run both ways where the family says so, and one way otherwise.
+    EXPECT_EQ(semaphoreTargets("MQ48T110", "I2S2"), QStringList{"SPI2"});
+    EXPECT_EQ(semaphoreTargets("MQ48T110", "SPI2"), QStringList{"I2S2"});
+    EXPECT_EQ(semaphoreTargets("MQ48T110", "TMR16"), QStringList{"TMR17"});
+    EXPECT_TRUE(semaphoreTargets("MQ48T110", "TMR17").isEmpty());
+    EXPECT_TRUE(semaphoreTargets("MQ48T110", "I2S3").isEmpty());
+    EXPECT_EQ(semaphoreTargets("MQ48T120", "I2S3"), QStringList{"SPI3"});
+
+    EXPECT_EQ(semaphoreTargets("MQ48T520", "ADC-Common"), (QStringList{"ADC1", "ADC2", "ADC3"}));
+    EXPECT_EQ(semaphoreTargets("MQ48T520", "SCFG"), (QStringList{"I2S2", "I2S3"}));
+    EXPECT_EQ(semaphoreTargets("MQ48T250", "EXINT"), (QStringList{"ADC1", "ADC2", "DAC"}));
+    EXPECT_EQ(semaphoreTargets("MQ48W320", "CMP1"), QStringList{"CMP2"});
+    EXPECT_EQ(semaphoreTargets("MQ48T310", "USBFS"), QStringList{"ACC"});
+    // A family without a row and an unknown sender route nowhere.
+    EXPECT_TRUE(semaphoreTargets("MQ48T230", "I2S1").isEmpty());
+    EXPECT_TRUE(semaphoreTargets("MQ48T110", "USART1").isEmpty());
+}
