@@ -101,16 +101,7 @@ void New_Design_Select::MCUSerial_ComboBox_IndexChanged(int)
 
 void New_Design_Select::Device_ComboBox_IndexChanged(int index)
 {
-    if (index < 0 || index >= devices.size()) {
-        m_packageEdit->clear();
-        m_flashEdit->clear();
-        m_sramEdit->clear();
-        return;
-    }
-    const MCUListItem &item = devices.at(index);
-    m_packageEdit->setText(item.Package);
-    m_flashEdit->setText(item.Flash);
-    m_sramEdit->setText(SramSizeText(item));
+    ShowDeviceFields(devices, index, m_packageEdit, m_flashEdit, m_sramEdit);
 }
 
 void New_Design_Select::NewDesign_PushButton_Clicked()
