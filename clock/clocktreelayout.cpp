@@ -198,6 +198,19 @@ constexpr int kBusX = 1075;
 constexpr int kRowCaptionX = 1152, kRowValueX = 1280;
 constexpr int kBottomY = 652;
 
+// The IN and OUT pins of a crystal oscillator block whose top edge is at y.
+void crystalPins(Builder &b, const QString &name, int y)
+{
+    ClockDrawing &d = b.d;
+    b.label(name + QStringLiteral("_in"), kSrcX + 10, y + 24, 0, true,
+            QT_TRANSLATE_NOOP("ClockTree", "IN"));
+    b.label(name + QStringLiteral("_out"), kSrcX + 10, y + 52, 0, true,
+            QT_TRANSLATE_NOOP("ClockTree", "OUT"));
+    d.block(QRectF(kSrcX + 52, y + 30, 24, 36), BK::Divider);
+    d.wire({QPointF(kSrcX + 40, y + 34), QPointF(kSrcX + 52, y + 34)}, WK::Thin, false);
+    d.wire({QPointF(kSrcX + 40, y + 62), QPointF(kSrcX + 52, y + 62)}, WK::Thin, false);
+}
+
 void sources(Builder &b, const ClockFamily &f)
 {
     ClockDrawing &d = b.d;
@@ -213,26 +226,14 @@ void sources(Builder &b, const ClockFamily &f)
               QT_TRANSLATE_NOOP("ClockTree", "lext(kHz)"));
     b.value(QStringLiteral("lext"), kFieldX, kLextY + 28, 80,
             QT_TRANSLATE_NOOP("ClockTree", "Low speed external crystal"));
-    b.label(QStringLiteral("lext_in"), kSrcX + 10, kLextY + 24, 0, true,
-            QT_TRANSLATE_NOOP("ClockTree", "IN"));
-    b.label(QStringLiteral("lext_out"), kSrcX + 10, kLextY + 52, 0, true,
-            QT_TRANSLATE_NOOP("ClockTree", "OUT"));
-    d.block(QRectF(kSrcX + 52, kLextY + 30, 24, 36), BK::Divider);
-    d.wire({QPointF(kSrcX + 40, kLextY + 34), QPointF(kSrcX + 52, kLextY + 34)}, WK::Thin, false);
-    d.wire({QPointF(kSrcX + 40, kLextY + 62), QPointF(kSrcX + 52, kLextY + 62)}, WK::Thin, false);
+    crystalPins(b, QStringLiteral("lext"), kLextY);
     // HEXT
     d.block(QRectF(kSrcX, kHextY, kSrcW, 80), BK::Source, QT_TRANSLATE_NOOP("ClockTree", "HEXT"));
     b.caption(QStringLiteral("hext"), kFieldX, kHextY + 8,
               QT_TRANSLATE_NOOP("ClockTree", "hext(4-25MHz)"));
     b.edit(QStringLiteral("hext"), kFieldX, kHextY + 28, 80,
            QT_TRANSLATE_NOOP("ClockTree", "High speed external crystal"));
-    b.label(QStringLiteral("hext_in"), kSrcX + 10, kHextY + 24, 0, true,
-            QT_TRANSLATE_NOOP("ClockTree", "IN"));
-    b.label(QStringLiteral("hext_out"), kSrcX + 10, kHextY + 52, 0, true,
-            QT_TRANSLATE_NOOP("ClockTree", "OUT"));
-    d.block(QRectF(kSrcX + 52, kHextY + 30, 24, 36), BK::Divider);
-    d.wire({QPointF(kSrcX + 40, kHextY + 34), QPointF(kSrcX + 52, kHextY + 34)}, WK::Thin, false);
-    d.wire({QPointF(kSrcX + 40, kHextY + 62), QPointF(kSrcX + 52, kHextY + 62)}, WK::Thin, false);
+    crystalPins(b, QStringLiteral("hext"), kHextY);
     // HICK
     d.block(QRectF(kSrcX, kHickY, kSrcW, 70), BK::Source, QT_TRANSLATE_NOOP("ClockTree", "HICK"));
     b.caption(QStringLiteral("hick"), kFieldX, kHickY + 8,

@@ -33,7 +33,7 @@ QList<MCUSerialInfo> GetMCUSerialList(const QString &cataloguePath)
         info.Serial = e.attribute(QStringLiteral("Serial"));
         info.InfoEN = e.attribute(QStringLiteral("InfoEN"));
         info.InfoCH = e.attribute(QStringLiteral("InfoCH"));
-        info.Info = g_language == 1 ? info.InfoCH : info.InfoEN;
+        info.Info = ResolveRuleA(info.InfoEN, info.InfoCH);
         list.append(info);
     }
     return list;

@@ -58,7 +58,7 @@ MCUPinsBaseInfo *readPin(const QDomElement &e)
     pin->remapOff = pin->Variant != QLatin1String("PINREMAP");
     pin->PinType = e.attribute(QStringLiteral("PinType"));
     pin->GPIOStructure = e.attribute(QStringLiteral("GPIOStructure"));
-    pin->Remarks = g_language == 1 ? pin->Remarks_CH : pin->Remarks_EN;
+    pin->Remarks = ResolveRuleA(pin->Remarks_EN, pin->Remarks_CH);
     for (QDomElement s = e.firstChildElement(); !s.isNull(); s = s.nextSiblingElement())
         pin->signalList.append(readPinSignal(s, pin->PinName));
     return pin;
@@ -203,7 +203,7 @@ QList<PeripheralListItem> GetPeripheralsList(const QString &devicePath)
         item.Config = e.attribute(QStringLiteral("Config"));
         item.About = e.attribute(QStringLiteral("About"));
         item.AboutCH = e.attribute(QStringLiteral("AboutCH"));
-        item.AboutText = g_language == 1 ? item.AboutCH : item.About;
+        item.AboutText = ResolveRuleA(item.About, item.AboutCH);
         list.append(item);
     }
     return list;

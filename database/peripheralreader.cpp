@@ -40,22 +40,6 @@ QString substituteIndex(QString text, const QString &instanceName, const QString
     return text;
 }
 
-// Rule A: the Chinese text in a Chinese run, else the English, with no fallback.
-QString ruleA(const QString &en, const QString &ch)
-{
-    return g_language == 1 ? ch : en;
-}
-
-// Rule B: as rule A, but an empty Chinese text falls back to, and is overwritten by, English.
-QString ruleB(const QString &en, QString *ch)
-{
-    if (g_language != 1)
-        return en;
-    if (ch->isEmpty())
-        *ch = en;
-    return *ch;
-}
-
 // Builds the node of the element whose StartElement the reader has just read.
 IPNode readElement(QXmlStreamReader &reader)
 {
@@ -155,8 +139,8 @@ ModeSignalGroup readModeGroup(const IPNode &node, const QString &instanceName)
             group.semaphores.append(substituteInstance(child.text, instanceName));
         }
     }
-    group.displayName = ruleA(group.UserName, group.UserNameCH);
-    group.diagnosticText = ruleA(group.Diagnostic, group.DiagnosticCH);
+    group.displayName = ResolveRuleA(group.UserName, group.UserNameCH);
+    group.diagnosticText = ResolveRuleA(group.Diagnostic, group.DiagnosticCH);
     return group;
 }
 
@@ -189,9 +173,9 @@ ModeOption readMode(const IPNode &node, const QString &instanceName)
             mode.semaphores.append(substituteInstance(child.text, instanceName));
         }
     }
-    mode.displayName = ruleA(mode.UserName, mode.UserNameCH);
-    mode.diagnosticText = ruleA(mode.Diagnostic, mode.DiagnosticCH);
-    mode.annotationText = ruleA(mode.Note, mode.NoteCH);
+    mode.displayName = ResolveRuleA(mode.UserName, mode.UserNameCH);
+    mode.diagnosticText = ResolveRuleA(mode.Diagnostic, mode.DiagnosticCH);
+    mode.annotationText = ResolveRuleA(mode.Note, mode.NoteCH);
     return mode;
 }
 
@@ -218,7 +202,7 @@ RefMode readRefMode(const IPNode &node)
             mode.Parameters.append(parameter);
         }
     }
-    mode.Group = ruleA(mode.GroupEN, mode.GroupCH);
+    mode.Group = ResolveRuleA(mode.GroupEN, mode.GroupCH);
     return mode;
 }
 
@@ -272,13 +256,13 @@ RefParameter readRefParameter(const IPNode &node, const QString &instanceName)
             p.PossibleValues.append(readParamValue(child, instanceName));
         }
     }
-    p.Comment = ruleB(p.CommentEN, &p.CommentCH);
-    p.Group = ruleB(p.GroupEN, &p.GroupCH);
-    p.Diagnostic = ruleB(p.DiagnosticEN, &p.DiagnosticCH);
-    p.Annotation = ruleB(p.Note, &p.NoteCH);
+    p.Comment = ResolveRuleB(p.CommentEN, &p.CommentCH);
+    p.Group = ResolveRuleB(p.GroupEN, &p.GroupCH);
+    p.Diagnostic = ResolveRuleB(p.DiagnosticEN, &p.DiagnosticCH);
+    p.Annotation = ResolveRuleB(p.Note, &p.NoteCH);
     for (RefParamValue &value : p.PossibleValues) {
-        value.Comment = ruleB(value.CommentEN, &value.CommentCH);
-        value.Diagnostic = ruleB(value.DiagnosticEN, &value.DiagnosticCH);
+        value.Comment = ResolveRuleB(value.CommentEN, &value.CommentCH);
+        value.Diagnostic = ResolveRuleB(value.DiagnosticEN, &value.DiagnosticCH);
     }
     return p;
 }
