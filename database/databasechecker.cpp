@@ -1,7 +1,9 @@
 #include "database/databasechecker.h"
 
 #include "database/catalogue.h"
+#include "database/devicecheck.h"
 #include "database/devicereader.h"
+#include "database/paths.h"
 #include "database/peripheralreader.h"
 #include "database/safexml.h"
 #include "database/xmlsection.h"
@@ -14,6 +16,9 @@
 namespace {
 
 const QString kIpInstance = QStringLiteral("$IpInstance");
+
+// Interrupt priorities take four bits.
+constexpr int kMaxIrqPriority = 15;
 
 QString quoted(const QString &text)
 {
@@ -128,6 +133,26 @@ QString defectKindName(DefectKind kind)
         return QStringLiteral("undefined-name");
     case DefectKind::BadDefault:
         return QStringLiteral("bad-default");
+    case DefectKind::DeviceFile:
+        return QStringLiteral("device-file");
+    case DefectKind::Duplicate:
+        return QStringLiteral("duplicate");
+    case DefectKind::BadNumber:
+        return QStringLiteral("bad-number");
+    case DefectKind::UnsafeName:
+        return QStringLiteral("unsafe-name");
+    case DefectKind::DmaRequest:
+        return QStringLiteral("dma-request");
+    case DefectKind::CanTiming:
+        return QStringLiteral("can-timing");
+    case DefectKind::Unrouted:
+        return QStringLiteral("unrouted-semaphore");
+    case DefectKind::MacroPrefix:
+        return QStringLiteral("macro-prefix");
+    case DefectKind::RemapGroup:
+        return QStringLiteral("remap-group");
+    case DefectKind::MultiFunction:
+        return QStringLiteral("multi-function");
     }
     return QString();
 }
@@ -189,19 +214,33 @@ void DatabaseChecker::checkCatalogue()
         report(DefectKind::Parse, path, QString(), QStringLiteral("file is missing"));
         return;
     }
-    const LoadedXml file = loadXmlFile(path);
-    if (file.root.isNull()) {
-        report(DefectKind::Parse, path, QString(), QStringLiteral("does not parse"));
+    QByteArray data;
+    QString problem;
+    if (!readSafeXmlFile(path, &data, &problem)) {
+        report(DefectKind::Parse, path, QString(), QStringLiteral("does not parse: ") + problem);
         return;
     }
+    const LoadedXml file = loadXmlFile(path);
     for (const char *term : {"MCUSerialsList", "MCUPackageList"}) {
         if (findTermSection(file.root, QString::fromLatin1(term)).isNull())
             report(DefectKind::Parse, path, QString(),
                    QStringLiteral("has no section ") + quoted(QString::fromLatin1(term)));
     }
     const QList<MCUSerialInfo> series = GetMCUSerialList(path);
+    QSet<QString> seen;
     for (const MCUSerialInfo &info : series) {
         const QString element = QStringLiteral("MCUSerialsList ") + quoted(info.Serial);
+        if (!IsPlainFileStem(info.Serial)) {
+            report(DefectKind::UnsafeName, path, element,
+                   QStringLiteral("the series name is no plain folder name; it is not read"));
+            continue;
+        }
+        if (seen.contains(info.Serial)) {
+            report(DefectKind::Duplicate, path, element,
+                   QStringLiteral("the series is listed more than once"));
+            continue;
+        }
+        seen.insert(info.Serial);
         checkPair(path, element, QStringLiteral("InfoEN"), info.InfoEN, QStringLiteral("InfoCH"),
                   info.InfoCH);
         if (findTermSection(file.root, info.Serial).isNull()) {
@@ -218,21 +257,36 @@ bool DatabaseChecker::readDevice(const QString &series, const MCUListItem &item,
     device->series = series;
     device->name = item.Name;
     device->package = item.Package;
+    const QString catalogue = m_folder + QStringLiteral("/MCUList.xml");
+    const QString rowElement = series + QStringLiteral(" / Device ") + quoted(item.Name);
+    if (item.Name.trimmed().isEmpty()) {
+        report(DefectKind::DeviceFile, catalogue, series,
+               QStringLiteral("a device row has no Name"));
+        return false;
+    }
+    if (!IsPlainFileStem(item.Name)) {
+        report(DefectKind::UnsafeName, catalogue, rowElement,
+               QStringLiteral("the device name is no plain file name; it is not read"));
+        return false;
+    }
     device->path = m_folder + QStringLiteral("/device/") + series + QLatin1Char('/') + item.Name +
                    QStringLiteral(".xml");
     if (!QFileInfo(device->path).isFile()) {
         report(DefectKind::Parse, device->path, QString(), QStringLiteral("file is missing"));
         return false;
     }
-    const LoadedXml file = loadXmlFile(device->path);
-    if (file.root.isNull()) {
-        report(DefectKind::Parse, device->path, QString(), QStringLiteral("does not parse"));
+    QByteArray data;
+    QString problem;
+    if (!readSafeXmlFile(device->path, &data, &problem)) {
+        report(DefectKind::Parse, device->path, QString(),
+               QStringLiteral("does not parse: ") + problem);
         return false;
     }
-    for (const char *term : {"MCUBaseInfo", "PinsList", "PeripheralsList"}) {
-        if (findTermSection(file.root, QString::fromLatin1(term)).isNull())
-            report(DefectKind::Parse, device->path, QString(),
-                   QStringLiteral("has no section ") + quoted(QString::fromLatin1(term)));
+    for (const DeviceFileIssue &issue : DeviceFileIssues(device->path)) {
+        const QString where =
+            issue.line > 0 ? QStringLiteral("line %1: ").arg(issue.line) : QString();
+        report(issue.element.isEmpty() ? DefectKind::Parse : DefectKind::DeviceFile, device->path,
+               issue.element, where + issue.message);
     }
     DevicePinInfo info;
     ReadDevicePinInfo(device->path, &info);
@@ -245,24 +299,38 @@ bool DatabaseChecker::readDevice(const QString &series, const MCUListItem &item,
                   QStringLiteral("Remarks_EN"), pin->Remarks_EN, QStringLiteral("Remarks_CH"),
                   pin->Remarks_CH);
     }
+    checkMultiFunctions(*device, info);
     device->rows = GetPeripheralsList(device->path);
     for (const PeripheralListItem &row : qAsConst(device->rows)) {
         checkPair(device->path, QStringLiteral("PeripheralsList ") + quoted(row.InstanceName),
                   QStringLiteral("About"), row.About, QStringLiteral("AboutCH"), row.AboutCH);
     }
+    checkDeviceRows(*device);
     return true;
 }
 
 void DatabaseChecker::checkSeries(const QString &series, const QList<MCUListItem> &items)
 {
     QList<int> indexes;
+    QSet<QString> names;
     for (const MCUListItem &item : items) {
+        if (!item.Name.isEmpty() && names.contains(item.Name)) {
+            report(DefectKind::Duplicate, m_folder + QStringLiteral("/MCUList.xml"),
+                   series + QStringLiteral(" / Device ") + quoted(item.Name),
+                   QStringLiteral("the device is listed more than once"));
+            continue;
+        }
+        names.insert(item.Name);
         Device device;
         if (readDevice(series, item, &device)) {
             indexes.append(m_devices.size());
             m_devices.append(device);
         }
     }
+    m_seriesDevices = indexes;
+    m_seriesPinNames.clear();
+    for (int index : qAsConst(indexes))
+        m_seriesPinNames << m_devices[index].pinNames;
     checkGroups(series, indexes);
 
     const QString seriesFolder = m_folder + QStringLiteral("/device/") + series;
@@ -285,6 +353,18 @@ void DatabaseChecker::checkSeries(const QString &series, const QList<MCUListItem
             if (blocks.contains(row.InstanceName) && row.InstanceName != row.Name)
                 stems << row.InstanceName;
             for (const QString &stem : stems) {
+                if (stem.isEmpty())
+                    continue; // a row without a name is a fault of the device file
+                if (!IsPlainFileStem(stem) || !IsPlainFileStem(row.Version)) {
+                    report(DefectKind::UnsafeName, device.path,
+                           QStringLiteral("PeripheralsList ") + quoted(row.InstanceName),
+                           QStringLiteral("the file name ") +
+                               quoted(stem + QLatin1Char('-') + row.Version +
+                                      QStringLiteral(".xml")) +
+                               QStringLiteral(" would leave the Peripherals folder; it is not "
+                                              "read"));
+                    continue;
+                }
                 const QString path = peripheralFolder + stem + QLatin1Char('-') + row.Version +
                                      QStringLiteral(".xml");
                 if (!QFileInfo(path).isFile()) {
@@ -296,11 +376,14 @@ void DatabaseChecker::checkSeries(const QString &series, const QList<MCUListItem
                 }
                 PeripheralFile &file = files[path];
                 file.path = path;
+                file.stem = stem;
+                file.version = row.Version;
                 file.instanceDevices[row.InstanceName].append(index);
             }
         }
     }
 
+    m_instances = instances;
     QSet<QString> defined = QSet<QString>(m_knownNames.begin(), m_knownNames.end());
     defined.unite(instances);
     // Interrupt conditions may name the DMA controllers that requests are configured on.
@@ -318,28 +401,24 @@ void DatabaseChecker::checkSeries(const QString &series, const QList<MCUListItem
         if (file.readable)
             checkPeripheralFile(file, defined);
     }
+    checkSeriesFiles(series, files);
 }
 
 void DatabaseChecker::checkGroups(const QString &series, const QList<int> &deviceIndexes)
 {
+    QStringList pinNames;
+    for (int index : deviceIndexes)
+        pinNames << m_devices[index].pinNames;
+    const PinNameIndex pins(pinNames);
     for (int index : deviceIndexes) {
         const Device &device = m_devices[index];
-        for (const PinsSignalsGroup &group : GetPinsSignalsGroups(device.path)) {
+        const QList<PinsSignalsGroup> groups = GetPinsSignalsGroups(device.path);
+        checkRemapGroups(device, groups);
+        for (const PinsSignalsGroup &group : groups) {
             const QString element = QStringLiteral("PinsSignalsGroup ") + quoted(group.IPName) +
                                     QLatin1Char(' ') + QString::number(group.GroupNum);
             for (const GroupSignal &signal : group.signalList) {
-                bool found = false;
-                for (int other : deviceIndexes) {
-                    for (const QString &pinName : m_devices[other].pinNames) {
-                        if (PinNamesMatch(pinName, signal.PinName)) {
-                            found = true;
-                            break;
-                        }
-                    }
-                    if (found)
-                        break;
-                }
-                if (!found)
+                if (pins.find(signal.PinName) < 0)
                     report(DefectKind::GroupPinUnknown, device.path, element,
                            QStringLiteral("pin ") + quoted(signal.PinName) +
                                QStringLiteral(" of signal ") + quoted(signal.SignalName) +
@@ -357,8 +436,10 @@ void DatabaseChecker::checkPeripheralFolder(const QString &folder)
     for (const QString &name : dir.entryList({QStringLiteral("*.xml")}, QDir::Files, QDir::Name)) {
         const QString path = dir.filePath(name);
         QByteArray data;
-        if (!readSafeXmlFile(path, &data)) {
-            report(DefectKind::Parse, path, QString(), QStringLiteral("does not parse"));
+        QString problem;
+        if (!readSafeXmlFile(path, &data, &problem)) {
+            report(DefectKind::Parse, path, QString(),
+                   QStringLiteral("does not parse: ") + problem);
             continue;
         }
         if (ReadIPFile(path).isEmpty()) {
@@ -470,6 +551,12 @@ void DatabaseChecker::checkModeSignals(const PeripheralFile &file, const IPNode 
     for (auto it = file.instanceDevices.constBegin(); it != file.instanceDevices.constEnd();
          ++it) {
         const QString &instance = it.key();
+        // A RefSignal of the same file may declare a mode signal virtual.
+        QSet<QString> declaredVirtual;
+        for (const ModeSignal &s : GetIPRefSignals(instance, file.root)) {
+            if (s.Virtual)
+                declaredVirtual.insert(s.signalName);
+        }
         QSet<QString> available;
         QStringList deviceNames;
         for (int index : it.value()) {
@@ -499,6 +586,8 @@ void DatabaseChecker::checkModeSignals(const PeripheralFile &file, const IPNode 
                     ExpandSignalRange(signal.attribute(QStringLiteral("Name")));
                 for (const QString &shortName : shortNames) {
                     const QString full = FullSignalName(instance, shortName);
+                    if (declaredVirtual.contains(full))
+                        continue;
                     if (!available.contains(full) && !packageDependentSignal(full))
                         report(DefectKind::SignalNotOnPin, file.path, element,
                                QStringLiteral("signal ") + quoted(full) + QStringLiteral(" of ") +
@@ -543,10 +632,24 @@ void DatabaseChecker::checkParameters(const PeripheralFile &file, const QSet<QSt
                       QStringLiteral("DiagnosticCH"));
             if (name == QLatin1String("IRQn")) {
                 QRegExp rx = irqPattern;
-                if (rx.indexIn(value) < 0)
+                if (rx.indexIn(value) < 0) {
                     report(DefectKind::IRQnPattern, file.path, element,
                            QStringLiteral("value ") + quoted(value) +
                                QStringLiteral(" does not match the IRQn pattern"));
+                    continue;
+                }
+                for (int cap : {6, 8}) {
+                    bool ok = false;
+                    const int priority = rx.cap(cap).trimmed().toInt(&ok, 10);
+                    if (!ok || priority < 0 || priority > kMaxIrqPriority)
+                        report(
+                            DefectKind::BadNumber, file.path, valueElement,
+                            QStringLiteral("the ") +
+                                (cap == 6 ? QStringLiteral("preemption") : QStringLiteral("sub")) +
+                                QStringLiteral(" priority ") + quoted(rx.cap(cap)) +
+                                QStringLiteral(" is not a number from 0 to %1")
+                                    .arg(kMaxIrqPriority));
+                }
             }
         }
 
@@ -555,25 +658,30 @@ void DatabaseChecker::checkParameters(const PeripheralFile &file, const QSet<QSt
              ++it) {
             const RefParameter p = GetRefParameter(it.key(), name, file.root);
             checkNames(file, element, QStringLiteral("Expression"), p.Expression, true, defined);
+            // The interrupt table's conditions name instances (checkInterruptTable).
+            if (name == QLatin1String("IRQn"))
+                continue;
             for (const RefParamValue &v : p.PossibleValues) {
                 const QString valueElement =
                     element + QStringLiteral(" / PossibleValue ") + quoted(v.Value);
-                if (name == QLatin1String("IRQn")) {
-                    // The NVIC table lists the family's whole vector table, so its conditions
-                    // may name instances that this series' peripheral list doesn't have yet:
-                    // only their form is checked.
-                    static const QRegExp instanceWord(QStringLiteral("[A-Za-z][A-Za-z0-9_]*"));
-                    for (const QString &part : v.Condition.split(QLatin1Char(';'))) {
-                        if (part.trimmed().isEmpty() || instanceWord.exactMatch(part.trimmed()))
-                            continue;
-                        report(DefectKind::UndefinedName, file.path, valueElement,
-                               QStringLiteral("Condition ") + quoted(part) +
-                                   QStringLiteral(" is not an instance name"));
-                    }
-                } else {
-                    checkNames(file, valueElement, QStringLiteral("Condition"), v.Condition, true,
-                               defined);
-                }
+                checkNames(file, valueElement, QStringLiteral("Condition"), v.Condition, true,
+                           defined);
+            }
+        }
+
+        // The bounds of a number must be numbers of its type.
+        if (type == QLatin1String("integer") || type == QLatin1String("hexadecimal") ||
+            type == QLatin1String("double")) {
+            for (const QString &bound : {QStringLiteral("Min"), QStringLiteral("Max")}) {
+                // "/16" is a divider of a clock, which a calculator turns into the bound.
+                QString text = node.attribute(bound).trimmed();
+                if (text.startsWith(QLatin1Char('/')))
+                    text = text.mid(1);
+                double ignored = 0;
+                if (!text.isEmpty() && !readNumber(type, text, &ignored))
+                    report(DefectKind::BadNumber, file.path, element,
+                           bound + QLatin1Char(' ') + quoted(node.attribute(bound)) +
+                               QStringLiteral(" is not a number of the type ") + quoted(type));
             }
         }
 
@@ -604,6 +712,7 @@ void DatabaseChecker::checkParameters(const PeripheralFile &file, const QSet<QSt
         double max = 0;
         const bool hasMin = !minText.isEmpty() && readNumber(type, minText, &min);
         const bool hasMax = !maxText.isEmpty() && readNumber(type, maxText, &max);
+
         if ((hasMin && value < min) || (hasMax && value > max))
             report(DefectKind::BadDefault, file.path, element,
                    QStringLiteral("default value ") + quoted(def) +

@@ -19,6 +19,16 @@ enum class DefectKind {
     MissingTranslation, // a bilingual text is empty in one language only
     UndefinedName,      // a Condition or Expression names something nothing defines
     BadDefault,         // a default value outside its range or not among its values
+    DeviceFile,         // a device file's pins, counts or rows are unusable or contradictory
+    Duplicate,          // a series or a device is listed twice
+    BadNumber,          // a number of a peripheral file (bound, priority) doesn't parse
+    UnsafeName,         // a name would make a file path leave the database folder
+    DmaRequest,         // a DMA or EDMA request names no channel, vector or instance
+    CanTiming,          // a CAN bit timing parameter has another range than the controller
+    Unrouted,           // a condition reads a semaphore that no route brings to its instance
+    MacroPrefix,        // a firmware macro value belongs to another module
+    RemapGroup,         // a remap group lacks its GMUX or repeats another's
+    MultiFunction,      // a Multi function has no Multi partner on its pin
 };
 
 // One defect, located by the file (relative to the database folder) and the element.
@@ -67,6 +77,8 @@ private:
     struct PeripheralFile
     {
         QString path;
+        QString stem; // the file name before "-<Version>.xml"
+        QString version;
         IPNode root;
         bool readable = false;
         QMap<QString, QList<int>> instanceDevices; // instance -> indexes into m_devices
@@ -91,6 +103,22 @@ private:
     void checkPair(const QString &file, const QString &element, const QString &enName,
                    const QString &enText, const QString &chName, const QString &chText);
 
+    // Checks of the data that the larger families bring (databaseseriescheck.cpp).
+    void checkDeviceRows(const Device &device);
+    void checkRemapGroups(const Device &device, const QList<PinsSignalsGroup> &groups);
+    void checkMultiFunctions(const Device &device, const DevicePinInfo &info);
+    void checkSeriesFiles(const QString &series, const QMap<QString, PeripheralFile> &files);
+    void checkVirtualPins(const QString &series, const QMap<QString, PeripheralFile> &files);
+    void checkInterruptTable(const PeripheralFile &file);
+    void checkDmaRequests(const QString &series, const QMap<QString, PeripheralFile> &files);
+    void checkAdcChannels(const PeripheralFile &file);
+    void checkCanTiming(const QString &series, const PeripheralFile &file);
+    void checkSemaphoreRoutes(const QString &series, const QMap<QString, PeripheralFile> &files);
+    void checkMacroPrefixes(const PeripheralFile &file);
+    // The signal names of the devices that list `instance`, and those devices' names.
+    QSet<QString> signalsOfInstance(const QMap<QString, QList<int>> &instanceDevices,
+                                    const QString &instance, QStringList *deviceNames) const;
+
     void report(DefectKind kind, const QString &path, const QString &element,
                 const QString &message);
     QString relative(const QString &path) const;
@@ -100,4 +128,7 @@ private:
     QList<Device> m_devices;
     QList<DatabaseDefect> m_defects;
     QSet<QString> m_reported;
+    QSet<QString> m_instances;    // every instance that a device of the series under check lists
+    QList<int> m_seriesDevices;   // indexes into m_devices of that series
+    QStringList m_seriesPinNames; // every pin name of the series' packages
 };

@@ -254,7 +254,7 @@ TEST(PeripheralReader, NvicTable)
     g_language = 0;
     IPNode root = ReadIPFile(peripheral("NVIC-1.0.xml"));
     QList<NVICInterrupt> irqs = GetNVICInterrupts(root);
-    ASSERT_EQ(irqs.size(), 3);
+    ASSERT_EQ(irqs.size(), 6);
     EXPECT_EQ(irqs[0].IRQName, "USART1_IRQn");
     EXPECT_EQ(irqs[0].Handler, "USART1_IRQHandler");
     EXPECT_TRUE(irqs[0].flag2);
