@@ -142,14 +142,15 @@ struct Builder
         out.controls.append(c);
         return out.controls.last();
     }
-    void caption(const QString &name, int x, int y, const char *text, int size = 9,
-                 bool bold = false, const QString &suffix = QString())
+    ClockControlSpec &caption(const QString &name, int x, int y, const char *text,
+                              int size = 9, bool bold = false, const QString &suffix = QString())
     {
         ClockControlSpec &c = add(QStringLiteral("cap_") + name, Kind::Caption, x, y);
         c.text = text;
         c.pointSize = size;
         c.bold = bold;
         c.suffix = suffix;
+        return c;
     }
     void edit(const QString &name, int x, int y, int w, const char *tip = nullptr)
     {
@@ -393,7 +394,7 @@ void systemClock(Builder &b, const ClockFamily &f)
     }
     d.wire({QPointF(222, kHickLine), QPointF(222, kHickRoute), QPointF(298, kHickRoute)},
            WK::Signal, false);
-    b.caption(QStringLiteral("hicktosclk"), 300, 462,
+    b.caption(QStringLiteral("hicktosclk"), 300, 459,
               QT_TRANSLATE_NOOP("ClockTree", "hick to sclk"));
     b.radio(QStringLiteral("hicktosclk"), 0, 300, 479, QT_TRANSLATE_NOOP("ClockTree", "/6"),
             nullptr, 50);
@@ -504,7 +505,8 @@ void buses(Builder &b, const ClockFamily &f)
                   n == QLatin1String("apb1") ? QT_TRANSLATE_NOOP("ClockTree", "apb1div")
                                              : QT_TRANSLATE_NOOP("ClockTree", "apb2div"),
                   9, true);
-        b.caption(n + QStringLiteral("max"), 1160, yRow - 24, cap, 9, false);
+        // Below the divider box, clear of the wire that leaves it at x 1172.
+        b.caption(n + QStringLiteral("max"), 1088, yRow + 33, cap, 9, false).width = 80;
         Q_UNUSED(max)
         b.combo(n + QStringLiteral("div"), 1088, yRow + 4, 70, ClockItems::apb());
         d.wire({QPointF(kBusX, yc + 4), QPointF(1086, yc + 4)});
@@ -796,6 +798,39 @@ void peripheralSelects(Builder &b, const ClockFamily &f)
 
 } // namespace
 
+namespace {
+
+// Gives every text that may outgrow its place the width of the smallest frame it starts in
+// (or of the sheet), or the width the layout names. The tree narrows it further to the next
+// control beside it, measured once the controls exist in the font the machine provides.
+void assignTextRoom(ClockTreeLayout &out)
+{
+    const QRectF sheet(QPointF(0, 0), out.drawing.size);
+    for (ClockControlSpec &c : out.controls) {
+        const bool text =
+            c.kind == Kind::Caption || c.kind == Kind::Radio || (c.kind == Kind::Label && c.text);
+        if (!text)
+            continue;
+        if ((c.kind == Kind::Label || c.kind == Kind::Caption) && c.width > 0) {
+            c.room = c.width;
+            continue;
+        }
+        double right = sheet.right();
+        double smallest = -1;
+        const QPointF origin = QPointF(c.pos) + QPointF(1, 1);
+        for (const ClockDrawing::Block &b : out.drawing.blocks) {
+            const double area = b.rect.width() * b.rect.height();
+            if (b.rect.contains(origin) && (smallest < 0 || area < smallest)) {
+                smallest = area;
+                right = qMin(sheet.right(), b.rect.right());
+            }
+        }
+        c.room = qMax(0, int(right) - c.pos.x() - 4);
+    }
+}
+
+} // namespace
+
 ClockTreeLayout clockTreeLayout(const ClockFamily &f)
 {
     Builder b;
@@ -809,5 +844,6 @@ ClockTreeLayout clockTreeLayout(const ClockFamily &f)
     usb(b, f);
     clockOutputs(b, f);
     peripheralSelects(b, f);
+    assignTextRoom(b.out);
     return b.out;
 }

@@ -25,7 +25,7 @@ struct ClockControlSpec
     QString name; // key and object name stem ("hext", "sclkselect_1", "cap_sclk")
     ClockControlKind kind = ClockControlKind::Caption;
     QPoint pos;
-    int width = 0;               // 0: natural width
+    int width = 0;               // 0: natural width; for a caption, the room it may take
     const char *text = nullptr;  // source text, context "ClockTree"
     QString suffix;              // literal appended to the translated text
     QStringList items;           // combo box items
@@ -35,6 +35,9 @@ struct ClockControlSpec
     const char *tip = nullptr;   // tool tip source text
     int pointSize = 9;
     bool bold = false;
+    // Widest a caption, text label or radio button may grow before its text is made smaller:
+    // from its left end to the frame it stands in; 0 when nothing limits it.
+    int room = 0;
 };
 
 // Everything a family's tree looks like: the drawing and the controls placed on it.

@@ -4,8 +4,10 @@
 
 #include <QtGlobal>
 
+#include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <limits>
 
 namespace {
 
@@ -45,6 +47,15 @@ bool hasNoUsb(int model)
 // PLL output dividers in search order.
 constexpr int kFrDividers[] = {1, 2, 4, 8, 16, 32};
 constexpr int kFpDividers[] = {1, 2, 4, 6, 8, 10, 12, 14, 16, 18, 20, 22, 24, 26, 28, 30};
+// The USB dividers of T210 and T220 that the firmware names (CRM_PLL_FU_...).
+constexpr int kNamedFu[] = {11, 13, 12, 14, 16, 18, 20};
+
+// A frequency typed by the user or computed from one, as an integer: values far beyond any
+// clock count as 0 rather than overflowing the conversion.
+int wholeMHz(double value)
+{
+    return value > 0.0 && value < 1.0e6 ? static_cast<int>(value) : 0;
+}
 
 } // namespace
 
@@ -259,19 +270,33 @@ void ClockTreeState::usbDividerFromSclk()
     const ClockFamily *f = family();
     const int usbMax = f ? f->usbMax : 4;
     if (pllAtDoubleSclk(mcuModel)) {
-        const int p = static_cast<int>(sclk) * 2;
+        const int p = wholeMHz(sclk) * 2;
         if (p % 48 == 0)
             usbdiv = p / 48.0;
         usbdiv = qBound(1.0, usbdiv, double(usbMax));
         usbclk = sclk * 2.0 / usbdiv;
     } else if (hasFpFu(mcuModel)) {
-        const int p = static_cast<int>(sclk) * pllfp;
-        if (p % 48 == 0)
-            pllfu = static_cast<int>(p / 48.0);
-        pllfu = qBound(1, pllfu, usbMax);
-        usbclk = pllfp * sclk / pllfu;
+        // Only a divider that the firmware names can be written into the code.
+        const auto named = [usbMax](int fu) {
+            return fu <= usbMax &&
+                   std::find(std::begin(kNamedFu), std::end(kNamedFu), fu) != std::end(kNamedFu);
+        };
+        const int p = wholeMHz(sclk) * pllfp;
+        if (p % 48 == 0 && named(p / 48)) {
+            pllfu = p / 48;
+        } else if (!named(pllfu)) {
+            // The named divider nearest to 48 MHz at the USB output.
+            int best = 0;
+            for (int fu : kNamedFu) {
+                if (named(fu) && (best == 0 || std::fabs(double(p) / fu - 48.0) <
+                                                   std::fabs(double(p) / best - 48.0)))
+                    best = fu;
+            }
+            pllfu = best;
+        }
+        usbclk = pllfu != 0 ? pllfp * sclk / pllfu : 0.0;
     } else {
-        const int p = static_cast<int>(sclk);
+        const int p = wholeMHz(sclk);
         // A multiple of 24 goes with the half steps of usbdiv: 72 MHz gives 1.5.
         if (p % 24 == 0)
             usbdiv = p / 48.0;
@@ -303,16 +328,39 @@ void ClockTreeState::solveForSource()
         solveForUsb();
 }
 
+double ClockTreeState::pllLimit(bool forUsb) const
+{
+    const ClockFamily *f = family();
+    // The USB search aims at 48 MHz behind its own divider: no system clock limit applies.
+    if (!f || forUsb)
+        return std::numeric_limits<double>::infinity();
+    double limit = pllAtDoubleSclk(mcuModel) ? 2.0 * f->sclkMax : f->sclkMax;
+    if (f->pllMax > 0.0)
+        limit = std::min(limit, f->pllMax);
+    return limit + 1e-9;
+}
+
+bool ClockTreeState::pllWithinLimits(double pll, bool forUsb) const
+{
+    return pll <= pllLimit(forUsb);
+}
+
 void ClockTreeState::searchPllMult(double input, bool forUsb)
 {
     double target = sclk;
     if (forUsb)
         target = 48.0 * (hasFpFu(mcuModel) ? pllfu : usbdiv);
+    if (!(input > 0.0) || input > 1.0e6 || !(target >= 0.0) || target > 1.0e6)
+        return;
     const int scaled = static_cast<int>(input * 1000.0);
     if (scaled <= 0)
         return;
     const double m = double(static_cast<int>(target * 1000.0)) / scaled;
     pllmult = qBound(2, static_cast<int>(m + 0.5), 64);
+    // Rounding up must not carry the clock past a limit that a smaller step keeps.
+    while (pllmult > 2 && !pllWithinLimits(pllmult * scaled / 1000.0, forUsb) &&
+           pllWithinLimits((pllmult - 1) * scaled / 1000.0, forUsb))
+        --pllmult;
     pllclk = pllmult * scaled / 1000.0;
     if (!forUsb)
         sclk = pllclk;
@@ -331,43 +379,72 @@ void ClockTreeState::searchPllFlexible(double input, bool forUsb)
 
     const int *dividers = fpfu ? kFpDividers : kFrDividers;
     const int count = fpfu ? int(std::size(kFpDividers)) : int(std::size(kFrDividers));
+    const double limit = pllLimit(forUsb);
 
-    double best = 10000.0;
-    int bestMs = 0;
-    int bestNs = 0;
-    int bestDiv = 0;
     int msMax = 15;
     int msMin = 1;
     pllMsRange(input, msMax, msMin);
-    // Largest divider first; the strict comparison keeps the first of equal results.
+    // The ns range depends on ms only: found once per ms, not again for every divider.
+    int nsMin[16] = {};
+    int nsMax[16] = {};
+    for (int ms = msMin; ms <= msMax; ++ms) {
+        nsMax[ms] = 500;
+        nsMin[ms] = 31;
+        pllNsRange(input, ms, nsMax[ms], nsMin[ms]);
+    }
+
+    // The best setting within the limits wins over any beyond them; among equals the first
+    // in the order of a full walk stays: largest divider first, then the smallest ms and ns
+    // (strict comparison). For one divider and ms the output grows with ns, so the distance
+    // to the target falls, then rises: only the ns next to the target, on each side of the
+    // limit, can be best, and those are the only ones tried.
+    struct Best
+    {
+        double d = 10000.0;
+        int ms = 0;
+        int ns = 0;
+        int div = 0;
+    } within, beyond;
     for (int i = count - 1; i >= 0; --i) {
         const int div = dividers[i];
         for (int ms = msMin; ms <= msMax; ++ms) {
-            int nsMax = 500;
-            int nsMin = 31;
-            pllNsRange(input, ms, nsMax, nsMin);
-            for (int ns = nsMin; ns <= nsMax; ++ns) {
-                const double d = std::fabs(ns * input / (div * ms) - target);
-                if (d < best) {
-                    best = d;
-                    bestMs = ms;
-                    bestNs = ns;
-                    bestDiv = div;
+            const auto output = [&](int ns) { return ns * input / (div * ms); };
+            const auto tryRange = [&](Best &b, int lo, int hi) {
+                if (lo > hi)
+                    return;
+                const double t = target * div * ms / input;
+                const int c = t <= lo ? lo : t >= hi ? hi : int(std::floor(t));
+                for (int ns = std::max(lo, c - 1); ns <= std::min(hi, c + 2); ++ns) {
+                    const double d = std::fabs(output(ns) - target);
+                    if (d < b.d)
+                        b = {d, ms, ns, div};
                 }
+            };
+            // The last ns whose output keeps within the limit.
+            int k = nsMax[ms];
+            if (output(k) > limit) {
+                k = std::max(nsMin[ms] - 1, int(std::floor(limit * div * ms / input)));
+                while (k >= nsMin[ms] && output(k) > limit)
+                    --k;
+                while (k + 1 <= nsMax[ms] && output(k + 1) <= limit)
+                    ++k;
             }
+            tryRange(within, nsMin[ms], k);
+            tryRange(beyond, k + 1, nsMax[ms]);
         }
     }
+    const Best &best = within.div != 0 ? within : beyond;
 
-    pllms = bestMs;
-    pllns = bestNs;
+    pllms = best.ms;
+    pllns = best.ns;
     if (fpfu) {
-        pllfp = bestDiv;
+        pllfp = best.div;
         pllfr = 0;
     } else {
-        pllfr = bestDiv;
+        pllfr = best.div;
         pllfp = 0;
     }
-    const double value = bestDiv != 0 ? bestNs * input / (bestDiv * bestMs) : 0.0;
+    const double value = best.div != 0 ? best.ns * input / (best.div * best.ms) : 0.0;
     pllclk = value;
     if (!forUsb)
         sclk = pllAtDoubleSclk(mcuModel) ? value * 0.5 : value;

@@ -137,8 +137,16 @@ public:
     void recalculate();
     void solveForSclk();
     void solveForUsb();
+    // The searches prefer the setting nearest to the target among those that keep the PLL
+    // and the system clock within the family's limits; only when none does they take the
+    // nearest beyond them.
     void searchPllFlexible(double input, bool forUsb);
     void searchPllMult(double input, bool forUsb);
+    // True when a PLL output keeps the PLL and the system clock within the family's limits;
+    // always true for the USB search.
+    bool pllWithinLimits(double pll, bool forUsb) const;
+    // The highest PLL output within the limits (infinite for the USB search).
+    double pllLimit(bool forUsb) const;
     void pllMsRange(double input, int &max, int &min) const;
     void pllNsRange(double input, int ms, int &max, int &min) const;
     bool checkPllMs(int ms, int &adjusted) const;

@@ -3,7 +3,7 @@
 #include "clock/clockcombobox.h"
 #include "clock/clockconfigxml.h"
 #include "clock/clockgraphicsview.h"
-#include "clock/clockmessage.h"
+#include "widgets/messagebox.h"
 
 #include <QButtonGroup>
 #include <QCoreApplication>
@@ -22,6 +22,7 @@ namespace {
 
 const QColor kGreenField(152, 251, 152);
 const QColor kPendingField(255, 255, 225);
+const QColor kDisabledField(240, 243, 246);
 const QColor kWhite(255, 255, 255);
 const QColor kRed(220, 0, 0);
 const QColor kDarkGreen(0, 110, 40);
@@ -164,6 +165,7 @@ void MQ48ClockTree::buildControls()
         if (proxy)
             m_proxies.insert(c.name, proxy);
     }
+    fitTexts();
 
     const QRegularExpression number(QStringLiteral("[0-9\\.]+$"));
     if (auto *e = qobject_cast<QLineEdit *>(control(QStringLiteral("hext"))))
@@ -216,15 +218,67 @@ void MQ48ClockTree::buildControls()
         group->setProperty("titleSource", QByteArray(l.title));
         group->setObjectName(QLatin1String(l.button) + QStringLiteral("_group"));
         const QSizeF size = proxy->size();
-        double px = buttonProxy->pos().x() + 80 - size.width();
-        double py = buttonProxy->pos().y() + 30;
-        const double bottom = m_layout.drawing.size.height() - 4;
-        if (py + size.height() > bottom)
-            py = qMax(4.0, bottom - size.height());
-        proxy->setPos(qRound(px), qRound(py));
+        proxy->setPos(listPlace(buttonProxy, size));
         proxy->setVisible(false);
         m_lists.insert(QLatin1String(l.button), proxy);
     }
+}
+
+void MQ48ClockTree::fitTexts()
+{
+    // Each text first takes its frame's room at its own size, so that all are measured alike.
+    QList<const ClockControlSpec *> texts;
+    for (const ClockControlSpec &c : m_layout.controls) {
+        QWidget *w = control(c.name);
+        if (!w || c.room <= 0 || !m_proxies.contains(c.name))
+            continue;
+        setTextRoom(w, c.room);
+        refit(w);
+        texts << &c;
+    }
+    for (const ClockControlSpec *c : qAsConst(texts)) {
+        QWidget *w = control(c->name);
+        const QRectF r = m_proxies.value(c->name)->sceneBoundingRect();
+        double right = r.left() + c->room;
+        for (auto it = m_proxies.constBegin(); it != m_proxies.constEnd(); ++it) {
+            if (it.key() == c->name)
+                continue;
+            const QRectF o = it.value()->sceneBoundingRect();
+            if (o.left() > r.left() && o.top() < r.bottom() - 1 && r.top() < o.bottom() - 1)
+                right = qMin(right, o.left() - 4);
+        }
+        const int room = qMax(1, int(right - r.left()));
+        if (room < c->room) {
+            setTextRoom(w, room);
+            refit(w);
+        }
+    }
+}
+
+QPoint MQ48ClockTree::listPlace(const QGraphicsProxyWidget *button, const QSizeF &size) const
+{
+    // Below the button, or above it, at the nearest place that covers no value field.
+    const QRectF sheet(QPointF(0, 0), m_layout.drawing.size);
+    const double x = button->pos().x() + 80 - size.width();
+    const auto coversValue = [this, &size, x](double y) {
+        const QRectF r(x, y, size.width(), size.height());
+        for (auto it = m_proxies.constBegin(); it != m_proxies.constEnd(); ++it) {
+            if (qobject_cast<QLineEdit *>(control(it.key())) &&
+                it.value()->sceneBoundingRect().intersects(r))
+                return true;
+        }
+        return false;
+    };
+    const double below = button->pos().y() + 30;
+    for (double y = below; y + size.height() <= sheet.bottom() - 4; y += 4) {
+        if (!coversValue(y))
+            return QPoint(qRound(x), qRound(y));
+    }
+    for (double y = button->pos().y() - size.height() - 4; y >= 4; y -= 4) {
+        if (!coversValue(y))
+            return QPoint(qRound(x), qRound(y));
+    }
+    return QPoint(qRound(x), qRound(qMax(4.0, qMin(below, sheet.bottom() - 4 - size.height()))));
 }
 
 void MQ48ClockTree::connectControls()
@@ -347,22 +401,13 @@ void MQ48ClockTree::connectControls()
 
 bool MQ48ClockTree::error(const QString &text)
 {
-    ClockMessage m;
-    m.kind = ClockMessage::Error;
-    m.title = tr("Error");
-    m.text = text;
-    showClockMessage(this, m);
+    tellUser(this, UserMessage::Error, tr("Error"), text);
     return false;
 }
 
 bool MQ48ClockTree::ask(const QString &text)
 {
-    ClockMessage m;
-    m.kind = ClockMessage::Warning;
-    m.title = tr("Warning");
-    m.text = text;
-    m.yesCancel = true;
-    return showClockMessage(this, m);
+    return confirmUser(this, UserMessage::Warning, tr("Warning"), text, yesButtonText());
 }
 
 int MQ48ClockTree::senderValue() const
@@ -440,7 +485,8 @@ void MQ48ClockTree::setLook(const QString &name, Look look, const QColor &text)
     w->setStyleSheet(QStringLiteral("QLineEdit { background-color: rgb(%1, %2, %3); color: "
                                     "rgb(%4, %5, %6); border: %7; border-radius: 3px; padding: "
                                     "0 3px; }"
-                                    "QLineEdit:disabled { color: rgb(150, 150, 150); }")
+                                    "QLineEdit:disabled { color: rgb(150, 150, 150);"
+                                    " background-color: rgb(240, 243, 246); }")
                          .arg(bg.red())
                          .arg(bg.green())
                          .arg(bg.blue())
@@ -478,7 +524,11 @@ void MQ48ClockTree::setVisible(const QString &name, bool visible)
 
 QColor MQ48ClockTree::fieldBackground(const QString &name) const
 {
-    return m_backgrounds.value(control(name), kWhite);
+    // A disabled field shows no state colour, whatever it had.
+    QWidget *w = control(name);
+    if (w && !w->isEnabled())
+        return kDisabledField;
+    return m_backgrounds.value(w, kWhite);
 }
 
 QColor MQ48ClockTree::fieldTextColor(const QString &name) const
@@ -1387,7 +1437,9 @@ void MQ48ClockTree::pllmode_ComboBox_currentIndexChanged(int index)
 {
     clockState().pllmode = index == 0 ? 1 : 0;
     applyPllModeVisibility();
-    if (!validatePll())
+    // The system clock stays: the new mode's settings are solved for it, so that fields the
+    // user never touched can't be reported as errors.
+    if (clockState().hextNeeded() && !hextCheck())
         return;
     readSclkField(false);
     chooser();
@@ -1799,6 +1851,7 @@ void MQ48ClockTree::retranslate()
     }
     for (QWidget *w : qAsConst(m_controls))
         refit(w);
+    fitTexts();
     for (QGraphicsProxyWidget *p : qAsConst(m_lists)) {
         if (auto *g = p->widget()->findChild<QGroupBox *>()) {
             g->setTitle(translated(g->property("titleSource").toByteArray().constData()));

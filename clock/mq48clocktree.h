@@ -113,7 +113,13 @@ private:
     enum class Look { Green, Pending, Inactive, Plain };
 
     void buildControls();
+    // Fits each caption, text label and radio button into its frame and up to the next
+    // control on its right, as the controls stand now in the current font and language.
+    void fitTexts();
     void connectControls();
+    // Where the peripheral list of a "List" button opens: next to the button, covering no
+    // value field of the drawing.
+    QPoint listPlace(const QGraphicsProxyWidget *button, const QSizeF &size) const;
     void syncFromState();
     void writePllFields();
     void updateRtcField();

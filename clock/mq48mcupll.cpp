@@ -4,6 +4,7 @@
 #include "clock/clockgraphicsview.h"
 
 #include <QDialog>
+#include <QFontMetrics>
 #include <QGraphicsProxyWidget>
 #include <QGraphicsScene>
 #include <QGroupBox>
@@ -198,10 +199,52 @@ QGroupBox *MQ48MCUPLL::addPeripheralList(const QString &title, const QStringList
     return group;
 }
 
+void MQ48MCUPLL::setTextRoom(QWidget *control, int room)
+{
+    if (!control)
+        return;
+    if (!control->property("textPointSize").isValid())
+        control->setProperty("textPointSize", control->font().pointSizeF());
+    control->setProperty("textRoom", room);
+}
+
+namespace {
+
+void fitIntoRoom(QWidget *control, int room)
+{
+    constexpr double kSmallest = 6.0;
+    QFont f = control->font();
+    f.setPointSizeF(control->property("textPointSize").toDouble());
+    control->setFont(f);
+    while (control->sizeHint().width() > room && f.pointSizeF() > kSmallest) {
+        f.setPointSizeF(qMax(kSmallest, f.pointSizeF() - 0.5));
+        control->setFont(f);
+    }
+    auto *label = qobject_cast<QLabel *>(control);
+    if (!label || label->sizeHint().width() <= room || label->text().isEmpty())
+        return;
+    const QString full = label->text();
+    const int frame = label->sizeHint().width() - label->fontMetrics().horizontalAdvance(full);
+    label->setText(label->fontMetrics().elidedText(full, Qt::ElideRight, room - frame));
+    label->setToolTip(full);
+}
+
+} // namespace
+
 void MQ48MCUPLL::refit(QWidget *control)
 {
-    if (QWidget *host = control ? control->parentWidget() : nullptr)
+    if (!control)
+        return;
+    const int room = control->property("textRoom").toInt();
+    if (room > 0)
+        fitIntoRoom(control, room);
+    if (QWidget *host = control->parentWidget()) {
+        if (QLayout *layout = host->layout()) {
+            layout->invalidate();
+            layout->activate();
+        }
         host->resize(host->sizeHint());
+    }
 }
 
 void MQ48MCUPLL::setLabelColor(QWidget *label, const QColor &color)

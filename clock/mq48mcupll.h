@@ -52,8 +52,12 @@ protected:
     QGroupBox *addPeripheralList(const QString &title, const QStringList &names, int x, int y,
                                  QGraphicsProxyWidget **proxy = nullptr);
 
-    // Fits the holder of a control to the control's size after a text or width change.
+    // Fits the holder of a control to the control's size after a text or width change; a
+    // control given a room first takes the largest font size (down to 6 points) whose text
+    // fits into it, and a label whose text still does not fit is elided with a tool tip.
     static void refit(QWidget *control);
+    // Limits the width of a text control to `room` pixels from now on (0: no limit).
+    static void setTextRoom(QWidget *control, int room);
     static void setLabelColor(QWidget *label, const QColor &color);
     static void setEditColor(QWidget *edit, const QColor &color);
 

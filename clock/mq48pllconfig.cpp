@@ -1,7 +1,7 @@
 #include "clock/mq48pllconfig.h"
 
 #include "clock/clockfamilies.h"
-#include "clock/clockmessage.h"
+#include "widgets/messagebox.h"
 #include "clock/mq48familytrees.h"
 
 #include <QAction>
@@ -27,16 +27,17 @@ MQ48PLLConfig::MQ48PLLConfig(QWidget *parent) : QWidget(parent)
     m_toolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     m_toolBar->setFont(QFont(QStringLiteral("Arial"), 11));
     m_zoomInAction = m_toolBar->addAction(QIcon(QStringLiteral(":/image/icon_zoomin.png")),
-                                          tr("Zoom in"), this, &MQ48PLLConfig::ZoomIn);
+                                          QString(), this, &MQ48PLLConfig::ZoomIn);
     m_zoomResetAction = m_toolBar->addAction(QIcon(QStringLiteral(":/image/icon_zoomreset.png")),
-                                             tr("Zoom Reset"), this, &MQ48PLLConfig::ZoomReset);
+                                             QString(), this, &MQ48PLLConfig::ZoomReset);
     m_zoomOutAction = m_toolBar->addAction(QIcon(QStringLiteral(":/image/icon_zoomout.png")),
-                                           tr("Zoom out"), this, &MQ48PLLConfig::ZoomOut);
+                                           QString(), this, &MQ48PLLConfig::ZoomOut);
     auto *stretch = new QLabel(m_toolBar);
     stretch->setFixedWidth(40);
     m_toolBar->addWidget(stretch);
     m_resetAction = m_toolBar->addAction(QIcon(QStringLiteral(":/image/icon_return.png")),
-                                         tr("Config Reset"), this, &MQ48PLLConfig::ConfigReset);
+                                         QString(), this, &MQ48PLLConfig::ConfigReset);
+    labelActions(false);
 
     auto *bar = new QHBoxLayout;
     bar->setContentsMargins(0, 0, 0, 0);
@@ -51,6 +52,12 @@ MQ48PLLConfig::~MQ48PLLConfig() = default;
 
 void MQ48PLLConfig::destroyTree()
 {
+    if (m_note) {
+        m_layout->removeWidget(m_note);
+        delete m_note;
+        m_note = nullptr;
+        m_layout->addStretch(1);
+    }
     if (!m_tree)
         return;
     disconnect(m_tree, nullptr, this, nullptr);
@@ -68,7 +75,24 @@ void MQ48PLLConfig::createTree(int model)
     if (QLayoutItem *last = m_layout->itemAt(m_layout->count() - 1); last && last->spacerItem())
         delete m_layout->takeAt(m_layout->count() - 1);
     if (!m_tree) {
-        m_layout->addStretch(1);
+        // A model without a tree says so instead of leaving the page blank.
+        const ClockFamily *f = clockFamily(model);
+        if (!f) {
+            m_layout->addStretch(1);
+            return;
+        }
+        m_note = new QLabel(this);
+        m_note->setObjectName(QStringLiteral("clockNote"));
+        m_note->setWordWrap(true);
+        m_note->setAlignment(Qt::AlignCenter);
+        m_note->setStyleSheet(QStringLiteral("color: rgb(47, 74, 109); padding: 40px;"));
+        m_note->setFont(QFont(QStringLiteral("Arial"), 12));
+        m_note->setProperty("series", QString::fromLatin1(f->series));
+        m_note->setText(tr("The clock tree of the %1 series can not be configured in this "
+                           "version of MQ48 Pin Forge.")
+                            .arg(m_note->property("series").toString()));
+        m_layout->addWidget(m_note, 1);
+        m_note->show();
         return;
     }
     m_layout->addWidget(m_tree, 1);
@@ -89,6 +113,8 @@ void MQ48PLLConfig::createTree(int model)
 
 void MQ48PLLConfig::setMcuModel(int model)
 {
+    // A new design speaks the language installed now, whatever it was when the page was made.
+    labelActions(false);
     createTree(model);
     if (const ClockFamily *f = clockFamily(model))
         m_series = QString::fromLatin1(f->series);
@@ -173,11 +199,7 @@ void MQ48PLLConfig::loadClockConfig(const QDomElement &element, const QString &s
     m_series = series;
     const ClockFamily *f = clockFamilyForSeries(series);
     if (!f) {
-        ClockMessage m;
-        m.kind = ClockMessage::Warning;
-        m.title = tr("Warning");
-        m.text = tr("MCU in file not supported.");
-        showClockMessage(this, m);
+        tellUser(this, UserMessage::Warning, tr("Warning"), tr("MCU in file not supported."));
         return;
     }
     createTree(f->model);
@@ -231,12 +253,21 @@ void MQ48PLLConfig::setPeripheralClockGate(const QString &ipName, bool enabled)
         m_tree->setPeripheralClockGate(ipName, enabled);
 }
 
-void MQ48PLLConfig::retranslate()
+void MQ48PLLConfig::labelActions(bool changed)
 {
     m_zoomInAction->setText(tr("Zoom in"));
     m_zoomResetAction->setText(tr("Zoom Reset"));
     m_zoomOutAction->setText(tr("Zoom out"));
-    m_resetAction->setText(tr("Reset Configuration"));
+    m_resetAction->setText(changed ? tr("Reset Configuration") : tr("Config Reset"));
+}
+
+void MQ48PLLConfig::retranslate()
+{
+    labelActions(true);
+    if (m_note)
+        m_note->setText(tr("The clock tree of the %1 series can not be configured in this "
+                           "version of MQ48 Pin Forge.")
+                            .arg(m_note->property("series").toString()));
     if (m_tree)
         m_tree->retranslate();
 }
@@ -266,12 +297,10 @@ void MQ48PLLConfig::ZoomReset()
 
 void MQ48PLLConfig::ConfigReset()
 {
-    ClockMessage m;
-    m.kind = ClockMessage::Warning;
-    m.title = tr("Warning");
-    m.text = tr("The current configuration will be reset. Please confirm whether to continue?");
-    m.yesCancel = true;
-    if (!showClockMessage(this, m))
+    if (!confirmUser(this, UserMessage::Warning, tr("Warning"),
+                     tr("The current configuration will be reset. Please confirm whether to "
+                        "continue?"),
+                     yesButtonText()))
         return;
     if (m_tree)
         m_tree->resetConfig();

@@ -6,6 +6,7 @@
 class MQ48ClockTree;
 class ClockTreeState;
 class QAction;
+class QLabel;
 class QDomElement;
 class QToolBar;
 class QVBoxLayout;
@@ -71,9 +72,15 @@ public slots:
     void ReciveUSBClockSourceChangeSignal();
     void ReciveI2SF5ClockSourceChangeSignal();
 
+    // The note shown instead of a tree for a model that has none; nullptr otherwise.
+    QLabel *note() const { return m_note; }
+
 private:
     void createTree(int model);
     void destroyTree();
+    // The tool bar's texts in the language now installed; `changed` after a change of
+    // language, when the reset action reads "Reset Configuration".
+    void labelActions(bool changed);
 
     QVBoxLayout *m_layout = nullptr;
     int m_mcuModel = 0;
@@ -84,4 +91,5 @@ private:
     QAction *m_zoomOutAction = nullptr;
     QAction *m_resetAction = nullptr;
     MQ48ClockTree *m_tree = nullptr;
+    QLabel *m_note = nullptr;
 };

@@ -1,13 +1,22 @@
 #include "peripherals/ip_modeandconfiguration.h"
 
+#include "clock/mq48pllconfig.h"
 #include "database/devicereader.h"
 #include "database/paths.h"
 #include "database/peripheralreader.h"
+#include "peripherals/couplingrules.h"
+#include "peripherals/diagrams/timingdiagrams.h"
+#include "peripherals/dmarequestmodel.h"
+#include "peripherals/dmasettingwidget.h"
+#include "peripherals/gpiosettingsmodel.h"
+#include "peripherals/gpiosettingwidget.h"
+#include "peripherals/nvic_settings.h"
+#include "peripherals/nvicmodel.h"
 #include "peripherals/paramsettingwidget.h"
-#include "peripherals/peripheralmessage.h"
 #include "peripherals/procheckbox.h"
 #include "peripherals/procombobox.h"
 #include "peripherals/prolabel.h"
+#include "widgets/messagebox.h"
 
 #include <QApplication>
 #include <QGridLayout>
@@ -23,26 +32,14 @@
 namespace {
 
 const QString kParamTab = QStringLiteral("Parameters Settings");
+const QString kGpioTab = QStringLiteral("GPIO Settings");
+const QString kNvicTab = QStringLiteral("NVIC Settings");
 
 QString headerStyle()
 {
     return QStringLiteral("QPushButton{background-color:rgb(35, 184, 198);color:white;"
                           "border:none;border-top-left-radius:6px;border-top-right-radius:6px;"
                           "text-align:left;padding-left:10px;}");
-}
-
-// Pin values of the clock outputs, by the word of the pin.
-int clockOutValue(const QList<QPair<QString, int>> &table, const QString &inPin, bool *found)
-{
-    *found = true;
-    if (inPin.isEmpty())
-        return 0;
-    for (const auto &entry : table) {
-        if (inPin == entry.first || inPin == entry.first + QLatin1Char(' '))
-            return entry.second;
-    }
-    *found = false;
-    return 0;
 }
 
 } // namespace
@@ -80,8 +77,10 @@ IP_ModeAndConfiguration::IP_ModeAndConfiguration(const PeripheralListItem &row,
     layout->setSpacing(0);
     buildModeArea();
     buildConfigurationArea(parameters);
-    if (m_logic.controls.isEmpty())
-        showPeripheralMessage(this, tr("Error"), tr("No Mode Settings!"));
+    // A file without modes is an error; modes that this package can't place only mean that
+    // the work form leaves the peripheral out.
+    if (!m_logic.modesFound)
+        tellUser(this, UserMessage::Error, tr("Error"), tr("No Mode Settings!"));
     runStatusRule();
     runHintRule();
     rebuildTabs();
@@ -112,10 +111,10 @@ void IP_ModeAndConfiguration::buildModeArea()
     m_grid = new QGridLayout(gridHost);
     m_grid->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     for (int i = 0; i < m_logic.controls.size(); ++i) {
-        ModeControl *control = &m_logic.controls[i];
+        const ModeControl *control = &m_logic.controls.at(i);
         const QString tip = control->option.diagnosticText;
         if (control->kind == ModeControl::CheckBox) {
-            auto *box = new ProCheckBox(control, gridHost);
+            auto *box = new ProCheckBox(&m_logic, i, gridHost);
             box->setFont(QFont(QStringLiteral("Arial"), 9));
             m_grid->addItem(new QSpacerItem(20, 20), i, 0);
             m_grid->addWidget(box, i, 1, 1, 3);
@@ -130,7 +129,7 @@ void IP_ModeAndConfiguration::buildModeArea()
             label->setName(control->option.Name);
             label->setFont(QFont(QStringLiteral("Arial"), 9));
             label->setToolTip(tip);
-            auto *box = new ProComboBox(control, gridHost);
+            auto *box = new ProComboBox(&m_logic, i, gridHost);
             box->setMinimumWidth(180);
             m_grid->addItem(new QSpacerItem(20, 20), i, 0);
             m_grid->addWidget(label, i, 1);
@@ -191,6 +190,10 @@ void IP_ModeAndConfiguration::buildConfigurationArea(const QList<RefParameter> &
         connect(
             m_paramWidget, &ParamSettingWidget::SendParamDescription, this,
             [this](const QString &, const QString &text) { m_descriptionLabel->setText(text); });
+        // The timing diagram stands between the tabs and the description.
+        m_diagram = createTimingDiagram(m_ipName, m_paramWidget, m_configArea);
+        if (m_diagram)
+            configLayout->insertWidget(configLayout->indexOf(m_descriptionLabel), m_diagram);
     }
 }
 
@@ -223,7 +226,44 @@ int IP_ModeAndConfiguration::controlIndexOf(QObject *widget) const
 
 QStringList IP_ModeAndConfiguration::tabTitles() const
 {
-    return m_logic.tabTitles({});
+    return m_logic.tabTitles(dmaTableNames());
+}
+
+void IP_ModeAndConfiguration::setSystemModels(GpioSettingsModel *gpio, NvicModel *nvic,
+                                              const QList<DmaRequestModel *> &dma)
+{
+    m_gpioModel = gpio;
+    m_nvicModel = nvic;
+    m_dmaModels = dma;
+    rebuildTabs();
+}
+
+QStringList IP_ModeAndConfiguration::signalNames() const
+{
+    QStringList names;
+    for (const ModeSignal &s : m_logic.allSignals) {
+        if (!names.contains(s.signalName))
+            names << s.signalName;
+    }
+    return names;
+}
+
+QList<DmaRequestModel *> IP_ModeAndConfiguration::dmaModels() const
+{
+    QList<DmaRequestModel *> out;
+    for (DmaRequestModel *model : m_dmaModels) {
+        if (!model->requestNamesOf(m_instanceName).isEmpty())
+            out << model;
+    }
+    return out;
+}
+
+QStringList IP_ModeAndConfiguration::dmaTableNames() const
+{
+    QStringList names;
+    for (DmaRequestModel *model : dmaModels())
+        names << model->name();
+    return names;
 }
 
 // ------------------------------------------------------------------------------- changes --
@@ -282,12 +322,19 @@ void IP_ModeAndConfiguration::applyChange(const ModeChange &change, bool fromCom
         runOscillatorRule(control);
     if (fromCombo)
         rebuildTabs();
+    emit SendRefreshNVIC(m_instanceName);
     emit SendIPStatusFlag(m_instanceName, m_status, true);
 }
 
 void IP_ModeAndConfiguration::applySemaphores(const QStringList &withdrawn,
                                               const QStringList &raised, bool emitOut)
 {
+    for (const QString &name : withdrawn)
+        m_raisedSemaphores.removeAll(name);
+    for (const QString &name : raised) {
+        if (!m_raisedSemaphores.contains(name))
+            m_raisedSemaphores << name;
+    }
     if (!withdrawn.isEmpty()) {
         m_logic.withdrawSemaphores(withdrawn);
         judgeControls();
@@ -385,10 +432,53 @@ void IP_ModeAndConfiguration::rebuildTabs()
 {
     const QSignalBlocker blocker(m_tabWidget);
     m_tabWidget->clear();
-    const QStringList titles = m_logic.tabTitles({});
+    const QStringList titles = m_logic.tabTitles(dmaTableNames());
+    const QList<DmaRequestModel *> dma = dmaModels();
     for (const QString &title : titles) {
-        if (title == kParamTab && m_paramWidget)
-            m_tabWidget->addTab(m_paramWidget, tr("Parameters Settings"));
+        if (title == kParamTab) {
+            if (m_paramWidget)
+                m_tabWidget->addTab(m_paramWidget, tr("Parameters Settings"));
+        } else if (title == kGpioTab) {
+            if (!m_gpioModel)
+                continue;
+            if (!m_gpioWidget) {
+                m_gpioWidget = new GPIOSettingWidget(
+                    m_gpioModel, GPIOSettingWidget::Scope::Instance, m_instanceName, this);
+                connect(m_gpioWidget, &GPIOSettingWidget::SendGPIOSettingChangeSignals, this,
+                        &IP_ModeAndConfiguration::ReciveGPIOSettingChangeSignals);
+                connect(m_gpioWidget, &GPIOSettingWidget::SendGPIOQuerySignals, this,
+                        &IP_ModeAndConfiguration::ReceiveGPIOQuerySignals);
+                connect(m_gpioWidget, &GPIOSettingWidget::SendGPIOSignalsUserLabelChange, this,
+                        &IP_ModeAndConfiguration::ReceiveGPIOSignalsUserLabelChange);
+            }
+            m_tabWidget->addTab(m_gpioWidget, tr("GPIO Settings"));
+        } else if (title == kNvicTab) {
+            if (!m_nvicModel)
+                continue;
+            if (!m_nvicWidget)
+                m_nvicWidget = new NVIC_Settings(m_nvicModel, m_instanceName, this);
+            m_tabWidget->addTab(m_nvicWidget, tr("NVIC Settings"));
+        } else {
+            for (DmaRequestModel *model : dma) {
+                if (title != model->name() + QStringLiteral(" Settings"))
+                    continue;
+                DMASettingWidget *table = nullptr;
+                for (DMASettingWidget *w : qAsConst(m_dmaWidgets)) {
+                    if (w->model() == model)
+                        table = w;
+                }
+                if (!table) {
+                    table = new DMASettingWidget(model, DMASettingWidget::Scope::Instance,
+                                                 m_instanceName, this);
+                    connect(table, &DMASettingWidget::SendDMARequestChangeSignals, this,
+                            &IP_ModeAndConfiguration::ReciveDMARequestChangeSignals);
+                    connect(table, &DMASettingWidget::SendIPStatusFlag, this,
+                            &IP_ModeAndConfiguration::ReceiveDMAIPStatusFlag);
+                    m_dmaWidgets << table;
+                }
+                m_tabWidget->addTab(table, tr("%1 Settings").arg(model->name()));
+            }
+        }
     }
     if (m_tabWidget->count() > 0 && m_paramWidget && m_tabWidget->widget(0) == m_paramWidget)
         m_tabWidget->setTabIcon(0, m_paramWidget->paramStatus == IPPARAMSTATUS_INVALID
@@ -402,52 +492,41 @@ void IP_ModeAndConfiguration::rebuildTabs()
 void IP_ModeAndConfiguration::runOscillatorRule(int control)
 {
     const ModeControl &c = m_logic.controls.at(control);
-    const QString name = c.option.Name;
-    const int index = c.current;
-    const bool enable = index > 0;
-    const bool bypass = index == 1;
-    if (name == QLatin1String("HEXT"))
-        emit SendHextFlag(enable, enable && bypass);
-    else if (name == QLatin1String("LEXT"))
-        emit SendLextFlag(enable, enable && bypass);
+    const CouplingRules::OscillatorFlag flag =
+        CouplingRules::oscillatorFlag(c.option.Name, c.current);
+    if (flag.oscillator == CouplingRules::OscillatorFlag::Hext)
+        emit SendHextFlag(flag.enable, flag.bypass);
+    else if (flag.oscillator == CouplingRules::OscillatorFlag::Lext)
+        emit SendLextFlag(flag.enable, flag.bypass);
 }
 
 void IP_ModeAndConfiguration::runClockOutputRule()
 {
     if (!m_devicePinInfo)
         return;
-    auto inPinOf = [this](const QString &signalName, bool *lit) {
-        *lit = false;
+    for (const CouplingRules::ClockOutput &output : CouplingRules::clockOutputs(m_mcuModel)) {
+        QString inPin;
         for (const MCUPinsBaseInfo *pin : m_devicePinInfo->pins) {
-            if (!pin->remapOff)
+            if (!pin->remapOff || !inPin.isEmpty())
                 continue;
             for (const MCUPinSignal *s : pin->signalList) {
-                if (s->status > SIGNAL_FREE && s->Func == signalName) {
-                    *lit = true;
-                    return s->InPin;
+                if (s->status > SIGNAL_FREE && s->Func == output.signalName) {
+                    inPin = s->InPin;
+                    break;
                 }
             }
         }
-        return QString();
-    };
-    bool lit = false;
-    bool found = false;
-    if (m_mcuModel == QLatin1String("MQ48T510") || m_mcuModel == QLatin1String("MQ48T520")) {
-        QString inPin = inPinOf(QStringLiteral("CRM_CLKOUT1"), &lit);
-        int v = clockOutValue({{"PA8", 1}, {"PE4", 2}}, lit ? inPin : QString(), &found);
-        if (found)
-            emit SendClockOut1Pin(v);
-        inPin = inPinOf(QStringLiteral("CRM_CLKOUT2"), &lit);
-        v = clockOutValue({{"PC9", 1}}, lit ? inPin : QString(), &found);
-        if (found)
-            emit SendClockOut2Pin(v);
-        return;
+        bool known = false;
+        const int value = CouplingRules::clockOutputValue(output, inPin, &known);
+        if (!known)
+            continue;
+        if (output.output == 0)
+            emit SendClockOutPin(value);
+        else if (output.output == 1)
+            emit SendClockOut1Pin(value);
+        else
+            emit SendClockOut2Pin(value);
     }
-    const QString inPin = inPinOf(QStringLiteral("CRM_CLKOUT"), &lit);
-    const int v = clockOutValue({{"PA8", 1}, {"PA9", 2}, {"PB13", 3}, {"PC9", 4}},
-                                lit ? inPin : QString(), &found);
-    if (found)
-        emit SendClockOutPin(v);
 }
 
 // ---------------------------------------------------------------------------- pin refresh --
@@ -457,10 +536,7 @@ void IP_ModeAndConfiguration::ReciveAllConfigedSignals(DevicePinInfo *info, bool
 {
     m_devicePinInfo = info;
     if (sendIPName.trimmed().isEmpty()) {
-        m_worker.pinInfo = info;
-        m_worker.updateControlFlag = updateControlFlag;
-        m_worker.sendIPName = sendIPName;
-        m_worker.start();
+        m_worker.request(info, updateControlFlag, sendIPName);
     } else if (sendIPName == m_instanceName) {
         UpdateAllConfigedSignals(info, updateControlFlag, sendIPName);
     } else {
@@ -504,12 +580,38 @@ void IP_ModeAndConfiguration::Configiguration_PushButton_Clicked()
 
 void IP_ModeAndConfiguration::ResetConfigurationClickedSlot()
 {
-    if (!askPeripheralQuestion(this, tr("Warning"),
-                               tr("The current configuration will be reset. Please confirm "
-                                  "whether to continue?")))
+    if (!confirmUser(this, UserMessage::Warning, tr("Warning"),
+                     tr("The current configuration will be reset. Please confirm whether to "
+                        "continue?"),
+                     okButtonText()))
         return;
+    if (m_gpioModel)
+        m_gpioModel->resetParameters(m_instanceName);
     if (m_paramWidget)
         m_paramWidget->Reset();
+    for (DmaRequestModel *model : dmaModels())
+        model->removeRequestsOf(m_instanceName);
+    if (m_nvicModel)
+        m_nvicModel->resetRows(m_nvicModel->rowsOfInstance(m_instanceName));
+    emit SendDMARequestChangeSignals();
+    emit SendRefreshNVIC(m_instanceName);
+}
+
+void IP_ModeAndConfiguration::resetToDefaults()
+{
+    // Later controls first, so that a control that another one unlocks goes before it.
+    for (int i = m_comboList.size() - 1; i >= 0; --i) {
+        if (m_comboList.at(i)->currentIndex() != 0)
+            m_comboList.at(i)->setCurrentIndex(0);
+    }
+    for (int i = m_checkList.size() - 1; i >= 0; --i) {
+        if (m_checkList.at(i)->isChecked())
+            m_checkList.at(i)->setChecked(false);
+    }
+    if (m_paramWidget)
+        m_paramWidget->Reset();
+    m_currentTab = 0;
+    rebuildTabs();
 }
 
 void IP_ModeAndConfiguration::ReciveGPIOSettingChangeSignals(QString instanceName,
@@ -537,7 +639,13 @@ void IP_ModeAndConfiguration::TabWidgetTabBarClicked(int index)
 
 void IP_ModeAndConfiguration::UpdateDMACondition()
 {
-    // The DMA tables of the instance read their requests here once they exist.
+    // The tables follow the shared models; the one on show catches up at once.
+    for (DMASettingWidget *table : qAsConst(m_dmaWidgets)) {
+        if (table->isVisible())
+            table->ensureCurrent();
+    }
+    if (m_nvicWidget && m_nvicWidget->isVisible())
+        m_nvicWidget->ensureCurrent();
 }
 
 void IP_ModeAndConfiguration::ReciveDMARequestChangeSignals()
@@ -561,18 +669,58 @@ void IP_ModeAndConfiguration::ReciveIPParamStatus(QString, IPPARAMSTATUS statusF
 
 void IP_ModeAndConfiguration::ReciveUSBClockSourceChangeSignal()
 {
-    // Only the families with a USB clock source choice connect the clock page here.
+    if (!m_clockPage)
+        return;
+    const QString source = m_clockPage->usbClockSourceMacro();
+    const QStringList names = {source};
+    for (ModeControl &c : m_logic.controls) {
+        if (c.kind != ModeControl::CheckBox)
+            continue;
+        if (CouplingRules::usbSourceRaisesSemaphore(source))
+            c.raise(names);
+        else
+            c.withdraw(names);
+    }
+    judgeControls();
+    if (m_instanceName == QLatin1String("ACC") && !m_checkList.isEmpty()) {
+        ProCheckBox *first = m_checkList.first();
+        first->setChecked(first->isEnabled());
+    }
 }
 
 void IP_ModeAndConfiguration::ReciveI2SF5ClockSourceChangeSignal()
 {
-    // Only "I2SF5" on the families that have it connects the clock page here.
+    if (!m_clockPage || m_instanceName != QLatin1String("I2SF5") ||
+        !CouplingRules::hasI2SF5ClockSource(m_mcuModel))
+        return;
+    if (ProCheckBox *box = checkBox(QStringLiteral("External_Clock_Input")))
+        box->setChecked(CouplingRules::i2sf5ExternalClock(m_clockPage->i2sf5ClockSourceMacro()));
+}
+
+void IP_ModeAndConfiguration::applyParamListRule(const QList<RefParameter> &parameters,
+                                                 bool emitOut)
+{
+    const CouplingRules::SemaphoreChange change =
+        CouplingRules::adcDmaRule(m_mcuModel, m_instanceName, parameters);
+    if (!change.applies)
+        return;
+    applySemaphores(change.withdrawn, {}, emitOut);
+    applySemaphores({}, change.raised, emitOut);
+    cascadeBlockedSelections();
 }
 
 void IP_ModeAndConfiguration::ReciveIPParamList(QList<RefParameter> RefParameterList,
                                                 QString IPName)
 {
+    applyParamListRule(RefParameterList, true);
     emit SendParamList_To_OtherIP(RefParameterList, IPName);
+}
+
+void IP_ModeAndConfiguration::ReceiveParamListFromOtherIP(const QList<RefParameter> &parameters,
+                                                          const QString &ipName)
+{
+    Q_UNUSED(ipName)
+    applyParamListRule(parameters, false);
 }
 
 void IP_ModeAndConfiguration::ReciveEXINTRefreshNVICList()
@@ -599,20 +747,30 @@ QList<QPair<QString, QString>> IP_ModeAndConfiguration::modeSelections() const
 bool IP_ModeAndConfiguration::setModeSelection(const QString &modeName, const QString &value)
 {
     if (ProCheckBox *box = checkBox(modeName)) {
-        box->setChecked(value.compare(QLatin1String("TRUE"), Qt::CaseInsensitive) == 0);
+        const bool ticked = value.compare(QLatin1String("TRUE"), Qt::CaseInsensitive) == 0;
+        if (!ticked && value.compare(QLatin1String("FALSE"), Qt::CaseInsensitive) != 0)
+            return false;
+        box->setChecked(ticked);
         return true;
     }
     ProComboBox *box = comboBox(modeName);
     if (!box)
         return false;
+    // The item's key first; then its text in either language, as a user reads it.
+    int index = -1;
     const ModeControl *c = box->control();
-    for (int i = 0; i < c->items.size(); ++i) {
-        if (c->option.signalGroups.value(c->items.at(i).groupIndex).Name == value) {
-            box->setCurrentIndex(i + 1);
-            return box->currentIndex() == i + 1;
+    for (int pass = 0; pass < 2 && index < 0; ++pass) {
+        for (int i = 0; i < c->items.size() && index < 0; ++i) {
+            const ModeSignalGroup group = c->option.signalGroups.value(c->items.at(i).groupIndex);
+            if (pass == 0 ? group.Name == value
+                          : (group.UserName == value || group.UserNameCH == value))
+                index = i + 1;
         }
     }
-    return false;
+    if (index < 0)
+        return false;
+    box->setCurrentIndex(index);
+    return box->currentIndex() == index;
 }
 
 void IP_ModeAndConfiguration::retranslateUi()
@@ -623,6 +781,12 @@ void IP_ModeAndConfiguration::retranslateUi()
         box->retranslate();
     if (m_paramWidget)
         m_paramWidget->retranslateUi();
+    if (m_gpioWidget)
+        m_gpioWidget->retranslateUi();
+    if (m_nvicWidget)
+        m_nvicWidget->retranslateUi();
+    for (DMASettingWidget *table : qAsConst(m_dmaWidgets))
+        table->retranslateUi();
     runHintRule();
     rebuildTabs();
 }

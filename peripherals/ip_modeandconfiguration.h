@@ -9,10 +9,18 @@
 #include <QString>
 #include <QWidget>
 
+class DMASettingWidget;
+class DmaRequestModel;
+class GPIOSettingWidget;
+class GpioSettingsModel;
+class MQ48PLLConfig;
+class NVIC_Settings;
+class NvicModel;
 class ParamSettingWidget;
 class ProCheckBox;
 class ProComboBox;
 class ProLabel;
+class TimingDiagram;
 class QGridLayout;
 class QLabel;
 class QPushButton;
@@ -32,6 +40,14 @@ public:
                             const DevicePinInfo *pinInfo = nullptr, QWidget *parent = nullptr);
     ~IP_ModeAndConfiguration() override;
 
+    // The chip-wide GPIO, NVIC and DMA models whose rows of this instance the tabs "GPIO
+    // Settings", "NVIC Settings" and "<DMA> Settings" show. Given once, before the panel is
+    // first used.
+    void setSystemModels(GpioSettingsModel *gpio, NvicModel *nvic,
+                         const QList<DmaRequestModel *> &dma);
+    // The clock page whose USB and I2SF5 sources the panel follows.
+    void setClockPage(MQ48PLLConfig *page) { m_clockPage = page; }
+
     QString instanceName() const { return m_instanceName; }
     QString ipName() const { return m_ipName; }
     QString mcuModel() const { return m_mcuModel; }
@@ -39,7 +55,23 @@ public:
     bool modeActive() const { return m_modeActive; }
     bool isStale() const { return m_stale; }
     const ModeLogic &logic() const { return m_logic; }
+    // Does the peripheral file have any mode, and can one be used on this package?
+    bool hasModes() const { return m_logic.modesFound; }
+    bool hasUsableMode() const { return !m_logic.controls.isEmpty(); }
+    // The semaphores in force on this panel, raised by its own modes, by other panels and by
+    // the coupling rules.
+    const QStringList &raisedSemaphores() const { return m_raisedSemaphores; }
+    // Every signal name the instance's modes can ask for.
+    QStringList signalNames() const;
+    // The tables of the tabs; nullptr (empty) until the tab has been needed once.
+    GPIOSettingWidget *gpioSettingWidget() const { return m_gpioWidget; }
+    NVIC_Settings *nvicSettings() const { return m_nvicWidget; }
+    QList<DMASettingWidget *> dmaSettingWidgets() const { return m_dmaWidgets; }
+    // The DMA models that have requests of this instance.
+    QList<DmaRequestModel *> dmaModels() const;
     ParamSettingWidget *paramSettingWidget() const { return m_paramWidget; }
+    // The timing diagram under the tabs (CAN, I2C, timers), or nullptr.
+    TimingDiagram *timingDiagram() const { return m_diagram; }
     QTabWidget *tabWidget() const { return m_tabWidget; }
     QLabel *hintLabel() const { return m_hintLabel; }
     QLabel *descriptionLabel() const { return m_descriptionLabel; }
@@ -57,11 +89,20 @@ public:
     // each control that is not at its start state.
     QList<QPair<QString, QString>> modeSelections() const;
     // Sets one selection back as the user would; false when there is no such mode or item.
+    // A check box takes "TRUE" or "FALSE" in any case; a combo box an item's key (its group
+    // Name) or its English or Chinese text.
     bool setModeSelection(const QString &modeName, const QString &value);
 
     // Semaphores of another instance, routed by the work form: raised or withdrawn here
     // without a further emission.
     void ReceiveSemaphoreFromOtherIP(const QStringList &semaphores, bool validFlag);
+    // The parameter list of another instance, passed on by the work form: the family's rule
+    // for it runs here, and nothing is sent on, so that a list never comes back.
+    void ReceiveParamListFromOtherIP(const QList<RefParameter> &parameters,
+                                     const QString &ipName);
+    // Every mode back to "Disable" or unticked, as the user would set them, and every
+    // parameter to its default.
+    void resetToDefaults();
     // Re-labels the panel after a change of language.
     void retranslateUi();
 
@@ -120,6 +161,8 @@ private:
     void runHintRule();
     void rebuildTabs();
     void runOscillatorRule(int control);
+    void applyParamListRule(const QList<RefParameter> &parameters, bool emitOut);
+    QStringList dmaTableNames() const;
     void runClockOutputRule();
     int controlIndexOf(QObject *widget) const;
 
@@ -140,7 +183,16 @@ private:
     QLabel *m_hintLabel = nullptr;
     QLabel *m_descriptionLabel = nullptr;
     ParamSettingWidget *m_paramWidget = nullptr;
+    TimingDiagram *m_diagram = nullptr;
     UpdateIPModeParamThread m_worker;
+    GpioSettingsModel *m_gpioModel = nullptr;
+    NvicModel *m_nvicModel = nullptr;
+    QList<DmaRequestModel *> m_dmaModels;
+    MQ48PLLConfig *m_clockPage = nullptr;
+    QStringList m_raisedSemaphores;
+    GPIOSettingWidget *m_gpioWidget = nullptr;
+    NVIC_Settings *m_nvicWidget = nullptr;
+    QList<DMASettingWidget *> m_dmaWidgets;
 
     QPushButton *m_modeButton = nullptr;
     QPushButton *m_configButton = nullptr;

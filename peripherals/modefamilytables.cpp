@@ -1,5 +1,7 @@
 #include "peripherals/modefamilytables.h"
 
+#include "database/familyfacts.h"
+
 #include <QMap>
 #include <QVector>
 
@@ -7,62 +9,6 @@ namespace {
 
 using StatusRule = ModeFamilyTables::StatusRule;
 using TabRow = ModeFamilyTables::TabRow;
-
-struct VirtualRow
-{
-    QStringList families;
-    // name -> pin name; an empty pin name means that the name stands as it is
-    QList<QPair<QString, QString>> names;
-};
-
-const QVector<VirtualRow> &virtualRows()
-{
-    static const QVector<VirtualRow> rows = {
-        {{"MQ48T110"}, {{"EXINT11", ""}, {"EXINT15", ""}, {"SCFG_VS_PA11PA12_REMAP", ""}}},
-        {{"MQ48T130", "MQ48V130"},
-         {{"SCFG_VS_PD13Ultra", "PD13"},
-          {"SCFG_VS_PD12Ultra", "PD12"},
-          {"SCFG_VS_PB8Ultra", "PB8"},
-          {"SCFG_VS_PB9Ultra", "PB9"},
-          {"EXINT11", ""},
-          {"EXINT15", ""}}},
-        {{"MQ48T120"},
-         {{"SCFG_VS_PB13Ultra", "PB13"},
-          {"SCFG_VS_PB14Ultra", "PB14"},
-          {"SCFG_VS_PB8Ultra", "PB8"},
-          {"SCFG_VS_PB9Ultra", "PB9"},
-          {"EXINT11", ""},
-          {"EXINT15", ""},
-          {"SCFG_VS_PA11PA12_REMAP", ""},
-          {"SCFG_VS_I2S23", ""},
-          {"SCFG_VS_I2S12", ""},
-          {"SCFG_VS_I2S13", ""}}},
-        {{"MQ48T250", "MQ48T260", "MQ48V250", "MQ48T310", "MQ48T320", "MQ48W320"},
-         {{"EXINT11", ""}, {"EXINT15", ""}}},
-        {{"MQ48T220", "MQ48T210"},
-         {{"SCFG_VS_PB3Ultra", "PB3"},
-          {"SCFG_VS_PB10Ultra", "PB10"},
-          {"SCFG_VS_PB9Ultra", "PB9"},
-          {"EXINT11", ""},
-          {"EXINT15", ""},
-          {"SCFG_VS_I2S23", ""},
-          {"SCFG_VS_I2S12", ""},
-          {"SCFG_VS_I2S13", ""}}},
-        {{"MQ48T510", "MQ48T520"},
-         {{"SCFG_VS_PF15Ultra", "PF15"},
-          {"SCFG_VS_PF14Ultra", "PF14"},
-          {"SCFG_VS_PD15Ultra", "PD15"},
-          {"SCFG_VS_PD14Ultra", "PD14"},
-          {"SCFG_VS_PD13Ultra", "PD13"},
-          {"SCFG_VS_PD12Ultra", "PD12"},
-          {"SCFG_VS_PB10Ultra", "PB10"},
-          {"SCFG_VS_PB9Ultra", "PB9"},
-          {"SCFG_VS_PB3Ultra", "PB3"},
-          {"EXINT11", ""},
-          {"EXINT15", ""}}},
-    };
-    return rows;
-}
 
 // A row of a status or tab table: the families it holds for (empty: all) and the instance
 // names, matched whole or by their name without trailing digits.
@@ -163,17 +109,12 @@ QString ModeFamilyTables::baseName(const QString &instance)
 bool ModeFamilyTables::virtualNameCounts(const QString &family, const QString &name,
                                          QString *pinName)
 {
-    for (const VirtualRow &row : virtualRows()) {
-        if (!row.families.contains(family))
-            continue;
-        for (const auto &entry : row.names) {
-            if (entry.first == name) {
-                if (pinName)
-                    *pinName = entry.second.isEmpty() ? name : entry.second;
-                return true;
-            }
+    for (const FamilyFacts::VirtualName &entry : FamilyFacts::virtualNames(family)) {
+        if (entry.name == name) {
+            if (pinName)
+                *pinName = entry.pinName.isEmpty() ? name : entry.pinName;
+            return true;
         }
-        return false;
     }
     return false;
 }

@@ -496,7 +496,7 @@ void ModeLogic::updateSignalStates(const DevicePinInfo *info)
 }
 
 bool ModeLogic::itemPinTest(const ModeControl &control, const ModeItem &item,
-                            const DevicePinInfo *info) const
+                            const DevicePinInfo *info, QString *failing) const
 {
     const QList<ModeSignal> held = control.realSignalsAt(control.current);
     for (const ModeSignal &s : item.signalList) {
@@ -515,18 +515,51 @@ bool ModeLogic::itemPinTest(const ModeControl &control, const ModeItem &item,
             continue;
         if (!held.isEmpty() && findsPinReleased(s.signalName, held, info))
             continue;
+        if (failing)
+            *failing = s.signalName;
         return false;
     }
     return true;
 }
+
+namespace {
+
+// The pins that could carry a signal, each with the signals that hold it now.
+QStringList pinsHolding(const QString &signalName, const DevicePinInfo *info)
+{
+    QStringList pins;
+    if (!info)
+        return pins;
+    for (const MCUPinsBaseInfo *pin : info->pins) {
+        if (!pin->remapOff)
+            continue;
+        QStringList holders;
+        bool carries = false;
+        for (const MCUPinSignal *sig : pin->signalList) {
+            carries = carries || sig->Func == signalName;
+            if (sig->status > SIGNAL_FREE && sig->Func != signalName)
+                holders << sig->Func;
+        }
+        if (carries && !holders.isEmpty())
+            pins << pin->PinName.trimmed() + QStringLiteral(": ") +
+                        holders.join(QStringLiteral(", "));
+    }
+    return pins;
+}
+
+} // namespace
 
 void ModeLogic::runEnableTests(const DevicePinInfo *info)
 {
     for (ModeControl &c : controls) {
         if (c.kind == ModeControl::CheckBox && c.current > 0)
             continue;
-        for (ModeItem &item : c.items)
-            item.pinEnabled = itemPinTest(c, item, info);
+        for (ModeItem &item : c.items) {
+            item.blockedSignal.clear();
+            item.pinEnabled = itemPinTest(c, item, info, &item.blockedSignal);
+            item.blockingPins =
+                item.pinEnabled ? QStringList() : pinsHolding(item.blockedSignal, info);
+        }
     }
 }
 

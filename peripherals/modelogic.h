@@ -20,6 +20,10 @@ struct ModeItem
     bool andFlag = true;
     // The pin test: every real signal can be placed now.
     bool pinEnabled = true;
+    // When the pin test fails: the first signal that finds no pin, and each of its pins with
+    // what holds it now, as "PF0: I2C1_SDA".
+    QString blockedSignal;
+    QStringList blockingPins;
 };
 
 // A mode control of a peripheral as the mode logic sees it: a check box or a combo box built
@@ -143,8 +147,8 @@ public:
     bool modesFound = false;
 
 private:
-    bool itemPinTest(const ModeControl &control, const ModeItem &item,
-                     const DevicePinInfo *info) const;
+    bool itemPinTest(const ModeControl &control, const ModeItem &item, const DevicePinInfo *info,
+                     QString *failing = nullptr) const;
     bool findsPinReleased(const QString &name, const QList<ModeSignal> &released,
                           const DevicePinInfo *info) const;
     int firstOfKind(ModeControl::Kind kind) const;

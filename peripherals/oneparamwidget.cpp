@@ -7,13 +7,48 @@
 #include <QLabel>
 #include <QRegularExpressionValidator>
 #include <QStandardItemModel>
+#include <QVBoxLayout>
+
+namespace {
+
+const QColor kGreyedText(150, 150, 150);
+
+QString boundText(const RefParameter &p, const QString &bound)
+{
+    QString b = bound.trimmed();
+    if (ParamValue::isHex(p) && !b.startsWith(QLatin1String("0x"), Qt::CaseInsensitive))
+        b.prepend(QStringLiteral("0x"));
+    return b;
+}
+
+// The text a possible value is known by.
+QString itemText(const RefParameter &p, const QString &value)
+{
+    for (const RefParamValue &v : p.PossibleValues) {
+        if (v.Value == value)
+            return v.Comment.isEmpty() ? v.Value : v.Comment;
+    }
+    return value;
+}
+
+} // namespace
 
 OneParamWidget::OneParamWidget(const RefParameter &parameter, const QStringList &semaphores,
                                QWidget *parent)
     : QWidget(parent), param(parameter), semaphores(semaphores)
 {
-    auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(6, 2, 6, 2);
+    auto *outer = new QVBoxLayout(this);
+    outer->setContentsMargins(6, 2, 6, 2);
+    outer->setSpacing(1);
+    auto *layout = new QHBoxLayout;
+    layout->setContentsMargins(0, 0, 0, 0);
+    outer->addLayout(layout);
+    m_messageLabel = new QLabel(this);
+    m_messageLabel->setFont(QFont(QStringLiteral("Arial"), 8));
+    m_messageLabel->setWordWrap(true);
+    m_messageLabel->hide();
+    outer->addWidget(m_messageLabel);
+
     m_label = new QLabel(ParamValue::labelText(param), this);
     m_label->setFont(QFont(QStringLiteral("Arial"), 9));
     m_label->setStyleSheet(QStringLiteral("background:transparent;"));
@@ -31,6 +66,8 @@ OneParamWidget::OneParamWidget(const RefParameter &parameter, const QStringList 
                 &OneParamWidget::Param_ComboBox_Clicked);
         connect(m_comboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
                 &OneParamWidget::Param_ComboBox_IndexChanged);
+        connect(m_comboBox, QOverload<int>::of(&QComboBox::activated), this,
+                &OneParamWidget::comboActivated);
         m_comboBox->setEnabled(param.Enable);
         layout->addWidget(m_comboBox, 1);
         return;
@@ -55,7 +92,8 @@ OneParamWidget::OneParamWidget(const RefParameter &parameter, const QStringList 
             !param.Value.contains(QLatin1Char('*')))
             param.Value = ParamValue::hexValue(param.Value, param.Max);
         m_lineEdit->setText(ParamValue::displayText(param, param.Value));
-        setValid(ParamValue::isValid(param));
+        const bool valid = ParamValue::isValid(param);
+        setValid(valid, valid ? QString() : numberProblem());
     } else {
         m_lineEdit->setText(param.Value);
     }
@@ -74,19 +112,44 @@ void OneParamWidget::buildList()
     for (const ParamListEntry &entry : choice.entries) {
         m_comboBox->addItem(entry.text);
         m_valueIndexes << entry.valueIndex;
-        if (entry.greyed && itemModel) {
-            QStandardItem *item = itemModel->item(m_comboBox->count() - 1);
-            item->setFlags(item->flags() & ~Qt::ItemIsEnabled);
-        }
+        const int row = m_comboBox->count() - 1;
+        // A value the calculators marked stays selectable, in grey: choosing it explains why
+        // it can't be used.
+        if (entry.greyed && itemModel)
+            itemModel->item(row)->setForeground(kGreyedText);
         const QString diag = param.PossibleValues.at(entry.valueIndex).Diagnostic;
         if (!diag.isEmpty())
-            m_comboBox->setItemData(m_comboBox->count() - 1, diag, Qt::ToolTipRole);
+            m_comboBox->setItemData(row, diag, Qt::ToolTipRole);
     }
     m_comboBox->setCurrentIndex(choice.current);
-    if (choice.current >= 0)
+    currentItem = RefParamValue();
+    for (const RefParamValue &v : param.PossibleValues) {
+        if (v.Value == param.Value) {
+            currentItem = v;
+            break;
+        }
+    }
+    if (currentItem.Value.isEmpty() && choice.current >= 0)
         currentItem = param.PossibleValues.at(m_valueIndexes.at(choice.current));
     previousItem = currentItem;
-    setValid(choice.valid);
+
+    m_fellBack = false;
+    QString problem;
+    if (choice.current >= 0 && choice.entries.at(choice.current).greyed) {
+        const RefParamValue &shown =
+            param.PossibleValues.at(choice.entries.at(choice.current).valueIndex);
+        problem = shown.Diagnostic.isEmpty()
+                      ? tr("\"%1\" can't be used with the current settings.")
+                            .arg(choice.entries.at(choice.current).text)
+                      : shown.Diagnostic;
+    } else if (!choice.valid && choice.current >= 0) {
+        m_fellBack = true;
+        problem = tr("\"%1\" is not available with the current settings. Choose a value.")
+                      .arg(itemText(param, param.Value));
+    } else if (!choice.valid) {
+        problem = tr("No value is available with the current settings.");
+    }
+    setValid(choice.valid, problem);
 }
 
 QString OneParamWidget::currentValue() const
@@ -98,16 +161,53 @@ QString OneParamWidget::currentValue() const
     return param.Value;
 }
 
-void OneParamWidget::setValid(bool valid)
+QString OneParamWidget::numberProblem() const
+{
+    double number = 0;
+    quint64 integer = 0;
+    if (!ParamValue::readNumber(param, param.Value, &number, &integer))
+        return tr("\"%1\" is not a number.").arg(param.Value);
+    const bool low = !param.Min.trimmed().isEmpty();
+    const bool high = !param.Max.trimmed().isEmpty();
+    if (low && high)
+        return tr("The value must lie between %1 and %2.")
+            .arg(boundText(param, param.Min), boundText(param, param.Max));
+    if (low)
+        return tr("The value must be at least %1.").arg(boundText(param, param.Min));
+    return tr("The value must be at most %1.").arg(boundText(param, param.Max));
+}
+
+void OneParamWidget::setValid(bool valid, const QString &problem)
 {
     m_valid = valid;
+    m_problem = valid ? QString() : problem;
     if (m_lineEdit && param.Type != QLatin1String("string"))
         m_lineEdit->setValid(valid);
-    if (m_comboBox)
+    if (m_comboBox) {
         m_comboBox->setProperty("invalid", !valid);
-    if (m_comboBox)
         m_comboBox->setStyleSheet(
             valid ? QString() : QStringLiteral("QComboBox{border:1px solid rgb(230, 40, 40);}"));
+    }
+    showMessage();
+}
+
+void OneParamWidget::setNote(const QString &note)
+{
+    m_note = note;
+    showMessage();
+}
+
+void OneParamWidget::showMessage()
+{
+    const QString text = m_valid ? m_note : m_problem;
+    m_messageLabel->setText(text);
+    m_messageLabel->setStyleSheet(m_valid ? QStringLiteral("color:rgb(50, 100, 160);")
+                                          : QStringLiteral("color:rgb(210, 40, 40);"));
+    m_messageLabel->setVisible(!text.isEmpty());
+    QWidget *input =
+        m_comboBox ? static_cast<QWidget *>(m_comboBox) : static_cast<QWidget *>(m_lineEdit);
+    if (input)
+        input->setToolTip(m_valid ? QString() : m_problem);
 }
 
 void OneParamWidget::Param_ComboBox_Clicked()
@@ -120,10 +220,18 @@ void OneParamWidget::Value_LineEdit_Clicked()
     emit SendParamClicked(param.Name);
 }
 
+void OneParamWidget::comboActivated(int index)
+{
+    // Choosing the entry shown in place of a lost value confirms it.
+    if (m_fellBack && index == m_comboBox->currentIndex())
+        Param_ComboBox_IndexChanged(index);
+}
+
 void OneParamWidget::Param_ComboBox_IndexChanged(int index)
 {
     if (index < 0 || index >= m_valueIndexes.size())
         return;
+    m_fellBack = false;
     previousItem = currentItem;
     if (!previousItem.Semaphore.isEmpty())
         emit SendCancelSemaphoreSignal(previousItem.Semaphore);
@@ -133,7 +241,12 @@ void OneParamWidget::Param_ComboBox_IndexChanged(int index)
     param.Value = currentItem.Value;
     emit SendParamModefySignal(param.Name, param.Value);
     // An item that stays only greyed is not a valid choice.
-    setValid(currentItem.Action.isEmpty());
+    const bool usable = currentItem.Action.isEmpty();
+    setValid(usable, usable ? QString()
+                            : (currentItem.Diagnostic.isEmpty()
+                                   ? tr("\"%1\" can't be used with the current settings.")
+                                         .arg(m_comboBox->itemText(index))
+                                   : currentItem.Diagnostic));
 }
 
 void OneParamWidget::Value_LineEdit_editingFinished()
@@ -154,6 +267,7 @@ void OneParamWidget::Value_LineEdit_editingFinished()
     if (!result.readable || !result.changed)
         return;
     param.Value = result.value;
-    setValid(ParamValue::isValid(param));
+    const bool valid = ParamValue::isValid(param);
+    setValid(valid, valid ? QString() : numberProblem());
     emit SendParamModefySignal(param.Name, param.Value, true);
 }

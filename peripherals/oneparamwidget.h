@@ -10,8 +10,8 @@ class CustomComboBox;
 class CustomLineEdit;
 class QLabel;
 
-// One row of the parameter panel: a label with the comment and range, and an input chosen by
-// the parameter's Type.
+// One row of the parameter panel: a label with the comment and range, an input chosen by the
+// parameter's Type, and under them the reason when the value is not valid, or a note.
 class OneParamWidget : public QWidget
 {
     Q_OBJECT
@@ -26,7 +26,13 @@ public:
     QString currentValue() const;
     // Does the row hold a valid value?
     bool isValueValid() const { return m_valid; }
+    // Why the value is not valid, in the user's words; empty when it is.
+    QString problemText() const { return m_problem; }
+    // A line shown under a valid row (a rate the value leads to); empty for none.
+    void setNote(const QString &note);
+    QString noteText() const { return m_note; }
     QLabel *label() const { return m_label; }
+    QLabel *messageLabel() const { return m_messageLabel; }
     CustomLineEdit *lineEdit() const { return m_lineEdit; }
     CustomComboBox *comboBox() const { return m_comboBox; }
     // The PossibleValues index of each combo box entry.
@@ -48,15 +54,22 @@ public slots:
 
 private:
     void buildList();
-    void setValid(bool valid);
+    void setValid(bool valid, const QString &problem = QString());
+    void showMessage();
+    QString numberProblem() const;
+    void comboActivated(int index);
 
     RefParameter param;
     QStringList semaphores;
     QLabel *m_label = nullptr;
+    QLabel *m_messageLabel = nullptr;
     CustomLineEdit *m_lineEdit = nullptr;
     CustomComboBox *m_comboBox = nullptr;
     QList<int> m_valueIndexes;
-    RefParamValue currentItem;
-    RefParamValue previousItem;
+    RefParamValue currentItem;  // the possible value of the stored Value
+    RefParamValue previousItem; // the one before the last change
     bool m_valid = true;
+    bool m_fellBack = false; // the list shows its first entry in place of a value it lost
+    QString m_problem;
+    QString m_note;
 };

@@ -1,7 +1,12 @@
 #include "peripherals/paramsettingwidget.h"
 
-#include "peripherals/expressionevaluator.h"
+#include "clock/mq48pllconfig.h"
+#include "peripherals/calculators/listsettle.h"
+#include "peripherals/calculators/paramcalculators.h"
+#include "peripherals/calculators/paramlist.h"
 #include "peripherals/oneparamwidget.h"
+#include "peripherals/paramvalue.h"
+#include "widgets/messagebox.h"
 
 #include <QAction>
 #include <QContextMenuEvent>
@@ -16,6 +21,9 @@ const QString kExintInterrupt = QStringLiteral("EXINT_LINE_INTERRUPUT");
 
 const QStringList kAdcListFamilies = {"MQ48T250", "MQ48T260", "MQ48V250",
                                       "MQ48T310", "MQ48T510", "MQ48T520"};
+// The CAN parameters whose edit starts a new bit timing search.
+const QStringList kCanSearchInputs = {"BaudRate", "Sample_Point", "BaudRate_Deviation_Tolerance",
+                                      "BaudRate_Deviation"};
 
 const RefParamValue *chosenValue(const RefParameter &p)
 {
@@ -43,6 +51,7 @@ ParamSettingWidget::ParamSettingWidget(const QString &mcuName, const QString &in
                 enabledSemaphores << v->Semaphore;
         }
     }
+    m_original = parameters;
     m_exintLines = exintInterruptLines();
 
     contextMenu = new QMenu(this);
@@ -71,26 +80,35 @@ void ParamSettingWidget::retranslateUi()
 {
     expandAction->setText(tr("Expand All"));
     foldAction->setText(tr("Fold All"));
+    // The calculators write their notes and choices in the language now in force.
+    if (runCalculators(QString(), false) && !rebuilding)
+        Rebuild();
 }
 
 QStringList ParamSettingWidget::evaluationList() const
 {
-    QStringList list = enabledSemaphores;
-    for (const RefParameter &p : parameters)
-        list << p.Name + QLatin1Char('=') + p.Value;
-    return list;
+    return ParamListSettle::evaluationList(parameters, enabledSemaphores);
 }
 
 bool ParamSettingWidget::isParameterVisible(const RefParameter &p) const
 {
-    if (!p.Visible)
-        return false;
-    return p.Expression.isEmpty() ||
-           ExpressionEvaluator::valueHolds(p.Expression, evaluationList());
+    return ParamListSettle::isVisible(p, evaluationList());
 }
 
-OneParamWidget *ParamSettingWidget::rowOf(const QString &paramName) const
+void ParamSettingWidget::setClockPage(MQ48PLLConfig *page)
 {
+    clockPage = page;
+    ReciveClockChangedSignal();
+}
+
+double ParamSettingWidget::instanceClock() const
+{
+    return clockPage ? clockPage->clockOfPeripheral(instanceName) : 0.0;
+}
+
+OneParamWidget *ParamSettingWidget::rowOf(const QString &paramName)
+{
+    ensureRows();
     for (OneParamWidget *row : rows) {
         if (row->parameter().Name == paramName)
             return row;
@@ -98,8 +116,9 @@ OneParamWidget *ParamSettingWidget::rowOf(const QString &paramName) const
     return nullptr;
 }
 
-QListWidgetItem *ParamSettingWidget::groupItem(const QString &group) const
+QListWidgetItem *ParamSettingWidget::groupItem(const QString &group)
 {
+    ensureRows();
     for (QListWidgetItem *item : groupRows) {
         if (item->data(kGroupRole).toString() == group)
             return item;
@@ -119,16 +138,52 @@ QString ParamSettingWidget::parameterValue(const QString &paramName) const
 void ParamSettingWidget::Rebuild()
 {
     rebuilding = true;
+    // Lists that follow the modes take their new value before the rows show it.
+    ParamListSettle::settle(parameters, enabledSemaphores, m_userChosen);
+    paramStatus = statusOfValues();
+    if (m_rowsBuilt)
+        buildRows();
+    rebuilding = false;
+    ++rebuildCount;
+}
+
+IPPARAMSTATUS ParamSettingWidget::statusOfValues() const
+{
+    const QStringList list = evaluationList();
+    for (const RefParameter &p : parameters) {
+        if (ParamListSettle::isVisible(p, list) && !ParamValue::rowValueValid(p, list))
+            return IPPARAMSTATUS_INVALID;
+    }
+    return IPPARAMSTATUS_VALID;
+}
+
+void ParamSettingWidget::ensureRows()
+{
+    if (m_rowsBuilt)
+        return;
+    m_rowsBuilt = true;
+    const bool wasRebuilding = rebuilding;
+    rebuilding = true;
+    buildRows();
+    rebuilding = wasRebuilding;
+}
+
+void ParamSettingWidget::showEvent(QShowEvent *event)
+{
+    ensureRows();
+    QListWidget::showEvent(event);
+}
+
+void ParamSettingWidget::buildRows()
+{
     const int scroll = verticalScrollBar()->value();
     clear();
     rows.clear();
     groupRows.clear();
-    paramStatus = IPPARAMSTATUS_VALID;
     const QStringList list = evaluationList();
     QStringList seenGroups;
     for (const RefParameter &p : parameters) {
-        if (!p.Visible ||
-            (!p.Expression.isEmpty() && !ExpressionEvaluator::valueHolds(p.Expression, list)))
+        if (!ParamListSettle::isVisible(p, list))
             continue;
         const bool folded = groupFolded.value(p.Group);
         if (!seenGroups.contains(p.Group)) {
@@ -148,6 +203,7 @@ void ParamSettingWidget::Rebuild()
             groupRows << header;
         }
         auto *row = new OneParamWidget(p, list);
+        row->setNote(m_notes.value(p.Name));
         auto *item = new QListWidgetItem(this);
         item->setData(kGroupRole, p.Group);
         item->setFlags(Qt::ItemIsEnabled);
@@ -155,8 +211,6 @@ void ParamSettingWidget::Rebuild()
         setItemWidget(item, row);
         item->setHidden(folded);
         rows << row;
-        if (!row->isValueValid())
-            paramStatus = IPPARAMSTATUS_INVALID;
         connect(row, QOverload<QString, QString, bool>::of(&OneParamWidget::SendParamModefySignal),
                 this, QOverload<QString, QString, bool>::of(&ParamSettingWidget::ParamModefySlot));
         connect(row, QOverload<QString, QString>::of(&OneParamWidget::SendParamModefySignal), this,
@@ -169,17 +223,11 @@ void ParamSettingWidget::Rebuild()
     }
     verticalScrollBar()->setValue(scrollPosition > 0 ? scrollPosition : scroll);
     scrollPosition = 0;
-    rebuilding = false;
-    ++rebuildCount;
 }
 
 void ParamSettingWidget::updateParamStatus(bool emitAlways)
 {
-    IPPARAMSTATUS status = IPPARAMSTATUS_VALID;
-    for (const OneParamWidget *row : rows) {
-        if (!row->isValueValid())
-            status = IPPARAMSTATUS_INVALID;
-    }
+    const IPPARAMSTATUS status = statusOfValues();
     const bool changed = status != paramStatus;
     paramStatus = status;
     if (changed || emitAlways)
@@ -225,6 +273,12 @@ void ParamSettingWidget::contextMenuEvent(QContextMenuEvent *event)
     contextMenu->exec(event->globalPos());
 }
 
+void ParamSettingWidget::markChosen(const QString &paramName)
+{
+    if (ParamList::find(parameters, paramName))
+        m_userChosen.insert(paramName);
+}
+
 void ParamSettingWidget::ParamModefySlot(QString paramName, QString paramValue, bool updateFlag)
 {
     bool reload = true;
@@ -235,10 +289,23 @@ void ParamSettingWidget::ParamModefySlot(QString paramName, QString paramValue, 
             break;
         }
     }
+    markChosen(paramName);
+    if (instanceName.contains(QLatin1String("CAN"))) {
+        if (paramName == QLatin1String("BaudRate")) {
+            bool ok = false;
+            const double baud = ParamList::leadingNumber(paramValue, &ok);
+            if (ok)
+                ParamList::setValue(parameters, QStringLiteral("Sample_Point"),
+                                    CanBitTiming::samplePointForBaud(baud));
+        }
+        if (kCanSearchInputs.contains(paramName))
+            canSearchPending = true;
+    }
     if (updateFlag)
         scrollPosition = verticalScrollBar()->value();
     modifiedName = paramName;
     modifiedValue = paramValue;
+    m_editPending = true;
     if (reload)
         refreshPending = true;
     updateParamStatus(false);
@@ -301,6 +368,9 @@ void ParamSettingWidget::UpdateModeChange()
     if (rebuilding)
         return;
     Rebuild();
+    // A value that followed the new mode can change what the calculators give.
+    if (runCalculators(QString(), false))
+        Rebuild();
     updateParamStatus(true);
     if (instanceName == QLatin1String("ADC1") && kAdcListFamilies.contains(mcuName))
         emit SendIPParamList(parameters, instanceName);
@@ -318,32 +388,101 @@ QStringList ParamSettingWidget::exintInterruptLines() const
     return lines;
 }
 
-void ParamSettingWidget::HandleTimeout()
+bool ParamSettingWidget::runCalculators(const QString &lastEdit, bool canSearch)
 {
-    if (!refreshPending)
-        return;
-    // Keeps the rows' own editing signals apart from the refresh.
-    QThread::msleep(30);
-    if (!rebuilding)
-        Rebuild();
-    for (RefParameter &p : parameters) {
-        if (p.Value.isEmpty() && !p.DefaultValue.isEmpty())
-            p.Value = p.DefaultValue;
-    }
+    CalculatorInput in;
+    in.family = mcuName;
+    in.instance = instanceName;
+    in.clockMHz = instanceClock();
+    in.apb2MHz = clockPage ? clockPage->apb2Value() : 0.0;
+    in.lastEdit = lastEdit;
+    in.canSearch = canSearch || !m_canSearched;
+    if (in.canSearch)
+        m_canSearched = true;
+    const CalculatorOutput out = ParamCalculators::run(parameters, m_original, in, &canResults);
+    // A default the calculators greyed moves on to an allowed value at once.
+    const bool settled =
+        !ParamListSettle::settle(parameters, enabledSemaphores, m_userChosen).isEmpty();
+    const bool notesChanged = out.notes != m_notes;
+    m_notes = out.notes;
+    if (out.hasCan)
+        emit SendCanParamValue(out.can.bs1, out.can.bs2, out.can.sync, out.can.sample);
+    if (out.hasI2c)
+        emit SendI2CParamValue(out.i2c.tr, out.i2c.tf, out.i2c.tSu, out.i2c.fScl);
+    if (out.hasTmr)
+        emit SendTMRParamValue(out.tmr.clockMHz, out.tmr.divider, out.tmr.period,
+                               out.tmr.direction);
+    return !out.changed.isEmpty() || notesChanged || settled;
+}
+
+void ParamSettingWidget::refreshValues()
+{
+    runCalculators(QString(), false);
+}
+
+void ParamSettingWidget::refreshNow()
+{
+    refreshPending = false;
+    fullRefresh(QString());
     updateParamStatus(true);
     const QStringList lines = exintInterruptLines();
     if (lines != m_exintLines) {
         m_exintLines = lines;
         emit SendEXINTRefreshNVICList();
     }
-    canSearchPending = false;
+}
+
+void ParamSettingWidget::fullRefresh(const QString &lastEdit)
+{
+    if (!rebuilding)
+        Rebuild();
+    bool changed = runCalculators(lastEdit, canSearchPending);
+    for (RefParameter &p : parameters) {
+        if (p.Value.isEmpty() && !p.DefaultValue.isEmpty()) {
+            p.Value = p.DefaultValue;
+            changed = true;
+        }
+    }
+    // The rows show what the calculators wrote: the refresh runs once more.
+    if (changed && !rebuilding)
+        Rebuild();
+}
+
+void ParamSettingWidget::HandleTimeout()
+{
+    if (!refreshPending || m_inTimeout)
+        return;
+    m_inTimeout = true;
     refreshPending = false;
+    // Keeps the rows' own editing signals apart from the refresh.
+    QThread::msleep(30);
+    const QString lastEdit = m_editPending ? modifiedName : QString();
+    m_editPending = false;
+    fullRefresh(lastEdit);
+    canSearchPending = false;
+    updateParamStatus(true);
+    const QStringList lines = exintInterruptLines();
+    if (lines != m_exintLines) {
+        m_exintLines = lines;
+        emit SendEXINTRefreshNVICList();
+    }
+    CalculatorInput in;
+    in.family = mcuName;
+    in.instance = instanceName;
+    in.lastEdit = lastEdit;
+    const QString error = ParamCalculators::editError(parameters, in);
+    if (!error.isEmpty())
+        tellUser(this, UserMessage::Error, tr("Error"), error);
+    m_inTimeout = false;
 }
 
 void ParamSettingWidget::ReciveClockChangedSignal()
 {
-    // The calculators that follow the clocks hang on this slot; without them nothing here
-    // depends on a clock.
+    // A new clock reaches the baud rate limits, the timer filters, the CAN search and the
+    // timing diagrams; the rows are rebuilt only when a value moved.
+    if (runCalculators(QString(), true) && !rebuilding)
+        Rebuild();
+    updateParamStatus(false);
 }
 
 void ParamSettingWidget::setParameterValue(const QString &paramName, const QString &value)
@@ -358,6 +497,7 @@ void ParamSettingWidget::setParameterValue(const QString &paramName, const QStri
             if (!now->Semaphore.isEmpty() && !enabledSemaphores.contains(now->Semaphore))
                 enabledSemaphores << now->Semaphore;
         }
+        m_userChosen.insert(paramName);
         refreshPending = true;
         return;
     }
@@ -377,6 +517,9 @@ void ParamSettingWidget::Reset()
             parameters.removeAt(i);
     }
     m_addedNames.clear();
+    m_userChosen.clear();
+    canResults.clear();
+    m_canSearched = false;
     for (RefParameter &p : parameters) {
         if (const RefParamValue *old = chosenValue(p))
             enabledSemaphores.removeAll(old->Semaphore);
@@ -387,5 +530,7 @@ void ParamSettingWidget::Reset()
         }
     }
     Rebuild();
+    if (runCalculators(QString(), true))
+        Rebuild();
     updateParamStatus(true);
 }

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "database/records.h"
+#include "peripherals/calculators/cancalculator.h"
 #include "peripherals/modechangethread.h"
 
 #include <QListWidget>
 #include <QMap>
+#include <QSet>
 #include <QStringList>
 #include <QTimer>
 
@@ -14,7 +16,10 @@ class QAction;
 class QMenu;
 
 // The "Parameters Settings" tab of a peripheral: group headers that fold and one row per
-// visible parameter, with the semaphores that show and hide rows.
+// visible parameter, with the semaphores that show and hide rows and the calculators that
+// keep the clock-dependent parameters up to date. The parameters, semaphores and status are
+// kept from the start; the row widgets are made when the tab is first shown or a row is
+// asked for.
 class ParamSettingWidget : public QListWidget
 {
     Q_OBJECT
@@ -27,8 +32,12 @@ public:
     bool isParameterVisible(const RefParameter &p) const;
     // The list the conditions are evaluated over: raised semaphores and "name=value" entries.
     QStringList evaluationList() const;
-    // The row of a parameter, or nullptr when it has none.
-    OneParamWidget *rowOf(const QString &paramName) const;
+    // The row of a parameter, or nullptr when it has none; makes the rows if need be.
+    OneParamWidget *rowOf(const QString &paramName);
+    // Makes the row widgets now if they are not there yet.
+    void ensureRows();
+    // Are the row widgets there?
+    bool rowsBuilt() const { return m_rowsBuilt; }
     // The value of a parameter; empty when unknown.
     QString parameterValue(const QString &paramName) const;
     // Sets a value from a design file; an unknown name is kept as a new record.
@@ -37,14 +46,29 @@ public:
     void Reset();
     // The mode panel tells of a change of mode (old text, new text).
     void ModeChanged(const QString &oldText, const QString &newText);
-    // Rebuilds the rows now.
+    // Settles the lists that follow the modes, works out the status and rebuilds the rows
+    // (once they exist) now.
     void Rebuild();
+    // Brings the values up to date with the modes and the clocks (calculators, lists that
+    // follow them) without rebuilding the rows.
+    void refreshValues();
+    // Runs at once the refresh that values set from outside (a design file) have marked:
+    // rows, calculators, status and the EXINT lines, without the error box of an edit.
+    void refreshNow();
     // Is a group header folded?
     bool isGroupFolded(const QString &group) const { return groupFolded.value(group); }
-    // The header item of a group, or nullptr.
-    QListWidgetItem *groupItem(const QString &group) const;
+    // The header item of a group, or nullptr; makes the rows if need be.
+    QListWidgetItem *groupItem(const QString &group);
     // Re-labels the menu after a change of language.
     void retranslateUi();
+    // The clock page the calculators read; the calculators run at once.
+    void setClockPage(MQ48PLLConfig *page);
+    // The clock of this instance in MHz; 0.0 without a clock page or a clock for it.
+    double instanceClock() const;
+    // The parameters as the database gives them.
+    const QList<RefParameter> &originalParameters() const { return m_original; }
+    // The note under a parameter's row (a real rate), empty for none.
+    QString noteOf(const QString &paramName) const { return m_notes.value(paramName); }
 
     QString mcuName;
     QString instanceName;
@@ -53,7 +77,7 @@ public:
     QStringList enabledSemaphores;
     QStringList validSemaphores;
     QStringList activeConditions;
-    QList<OneParamWidget *> rows;
+    QList<OneParamWidget *> rows; // empty until the rows are made
     QList<QListWidgetItem *> groupRows;
     QMap<QString, bool> groupFolded;
     QMenu *contextMenu = nullptr;
@@ -68,6 +92,7 @@ public:
     QString modifiedValue;
     bool canSearchPending = false;
     bool rebuilding = false;
+    QList<CANBaudResult> canResults;
     int rebuildCount = 0; // number of rebuilds so far, for the refresh coalescing
 
 signals:
@@ -95,14 +120,30 @@ public slots:
 
 protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     void groupClicked(QListWidgetItem *item);
     void rowClicked(const QString &paramName);
     void startModeThread();
     void updateParamStatus(bool emitAlways);
+    // 2 when a visible parameter holds a value its row would show as not valid, else 1.
+    IPPARAMSTATUS statusOfValues() const;
+    void buildRows();
     QStringList exintInterruptLines() const;
+    // Runs the calculators of the instance and feeds the diagrams; true when a parameter or a
+    // note changed.
+    bool runCalculators(const QString &lastEdit, bool canSearch);
+    void fullRefresh(const QString &lastEdit);
+    void markChosen(const QString &paramName);
 
+    QList<RefParameter> m_original;
     QStringList m_addedNames;
     QStringList m_exintLines;
+    QSet<QString> m_userChosen;     // parameters whose value the user (or a design) set
+    QMap<QString, QString> m_notes; // notes of the calculators under their rows
+    bool m_canSearched = false;     // the CAN search ran at least once
+    bool m_editPending = false;     // modifiedName is an edit the refresh hasn't checked yet
+    bool m_inTimeout = false;
+    bool m_rowsBuilt = false;
 };

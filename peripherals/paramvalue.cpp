@@ -4,6 +4,8 @@
 
 #include <QRegularExpression>
 
+#include <limits>
+
 namespace {
 
 QString stripPrefix(const QString &text)
@@ -20,6 +22,17 @@ QString stripUnit(const QString &text, const QString &unit)
     if (!unit.isEmpty() && t.endsWith(unit))
         t.chop(unit.size());
     return t.trimmed();
+}
+
+// A bound as an unsigned integer: a bound of a broken file (negative, 1e30) is brought into
+// the range of the type instead of overflowing the conversion.
+quint64 boundToUnsigned(double bound)
+{
+    if (!(bound > 0))
+        return 0;
+    if (bound >= 18446744073709551615.0)
+        return std::numeric_limits<quint64>::max();
+    return quint64(bound);
 }
 
 } // namespace
@@ -57,7 +70,10 @@ QString ParamValue::trimDouble(const QString &text)
 
 QString ParamValue::labelText(const RefParameter &p)
 {
-    const bool range = !p.Min.isEmpty() && !p.Max.isEmpty();
+    // A bound that is still a formula (a "/n" divisor waiting for its clock) is no range.
+    double low = 0;
+    double high = 0;
+    const bool range = readBound(p, p.Min, &low) && readBound(p, p.Max, &high);
     if (isHex(p) && range)
         return QStringLiteral("%1 (0x%2-0x%3)")
             .arg(p.Comment, stripPrefix(p.Min), stripPrefix(p.Max));
@@ -165,11 +181,11 @@ ParamEdit ParamValue::edit(const RefParameter &p, const QString &text)
     QString value;
     if (readBound(p, p.Min, &low) && number < low) {
         number = low;
-        integer = quint64(low);
+        integer = boundToUnsigned(low);
         result.clipped = true;
     } else if (readBound(p, p.Max, &high) && number > high) {
         number = high;
-        integer = quint64(high);
+        integer = boundToUnsigned(high);
         result.clipped = true;
     }
     if (isHex(p))
@@ -208,6 +224,21 @@ bool ParamValue::isValid(const RefParameter &p)
     if (readBound(p, p.Max, &bound) && number > bound)
         return false;
     return true;
+}
+
+bool ParamValue::rowValueValid(const RefParameter &p, const QStringList &enabled)
+{
+    if (p.Type == QLatin1String("list"))
+        return listChoice(p, enabled).valid;
+    if (!isNumeric(p))
+        return true;
+    // The row shows a hexadecimal value padded to its maximum.
+    if (isHex(p) && !p.Value.isEmpty() && !p.Value.contains(QLatin1Char('*'))) {
+        RefParameter shown = p;
+        shown.Value = hexValue(p.Value, p.Max);
+        return isValid(shown);
+    }
+    return isValid(p);
 }
 
 ParamListChoice ParamValue::listChoice(const RefParameter &p, const QStringList &enabled)

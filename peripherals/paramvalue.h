@@ -62,6 +62,9 @@ public:
     static ParamEdit edit(const RefParameter &p, const QString &text);
     // Does the stored value satisfy the type and range?
     static bool isValid(const RefParameter &p);
+    // Does the parameter's row hold a valid value over the enabled semaphores: a list value
+    // that is offered and not greyed, a number within its range? Other types always do.
+    static bool rowValueValid(const RefParameter &p, const QStringList &enabled);
 
     // The entries of a list parameter over the enabled semaphores (entries "name=value"
     // allowed) and the choice of the stored value.

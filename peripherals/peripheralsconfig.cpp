@@ -1,10 +1,12 @@
 #include "peripherals/peripheralsconfig.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
+#include <QStyle>
 #include <QStyleFactory>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -15,6 +17,29 @@ constexpr int kIconRole = Qt::UserRole + 10;
 const QString kLight = QStringLiteral(":/image/background-light.png");
 const QString kGreen = QStringLiteral(":/image/greenStone.png");
 const QString kDanger = QStringLiteral(":/image/danger32.png");
+
+// The group names of the device files, translated on screen.
+const char *const kGroupNames[] = {
+    QT_TRANSLATE_NOOP("PeripheralsConfig", "Analog"),
+    QT_TRANSLATE_NOOP("PeripheralsConfig", "Computing"),
+    QT_TRANSLATE_NOOP("PeripheralsConfig", "Connectivity"),
+    QT_TRANSLATE_NOOP("PeripheralsConfig", "Middleware"),
+    QT_TRANSLATE_NOOP("PeripheralsConfig", "Multimedia"),
+    QT_TRANSLATE_NOOP("PeripheralsConfig", "Security"),
+    QT_TRANSLATE_NOOP("PeripheralsConfig", "System Core"),
+    QT_TRANSLATE_NOOP("PeripheralsConfig", "Timers"),
+};
+
+// A group name as shown: known names in the language of the program, others as written.
+QString groupTitle(const QString &name)
+{
+    for (const char *known : kGroupNames) {
+        if (name == QLatin1String(known))
+            return QStringLiteral("    ") +
+                   QCoreApplication::translate("PeripheralsConfig", known);
+    }
+    return QStringLiteral("    ") + name;
+}
 
 const char *const kScrollStyle =
     "QScrollBar:vertical{background:rgb(238, 245, 247);width:8px;margin:0;}"
@@ -55,7 +80,11 @@ PeripheralsConfig::PeripheralsConfig(const QList<PeripheralListItem> &peripheral
     m_tree = new QTreeWidget(this);
     m_tree->setHeaderHidden(true);
     m_tree->setIndentation(10);
-    m_tree->setStyle(QStyleFactory::create(QStringLiteral("windows")));
+    // setStyle() does not take the style: the page owns it, and deletes it after the tree.
+    if (QStyle *style = QStyleFactory::create(QStringLiteral("windows"))) {
+        style->setParent(this);
+        m_tree->setStyle(style);
+    }
     m_tree->setStyleSheet(QStringLiteral("QTreeWidget::item{height:25px;}") +
                           QLatin1String(kScrollStyle));
     m_tree->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -75,7 +104,7 @@ PeripheralsConfig::PeripheralsConfig(const QList<PeripheralListItem> &peripheral
             Group group;
             group.name = row.GroupName;
             group.header = new QTreeWidgetItem(m_tree);
-            group.header->setText(0, QStringLiteral("    ") + row.GroupName);
+            group.header->setText(0, groupTitle(row.GroupName));
             group.header->setFont(0, groupFont);
             m_groups << group;
             g = m_groups.size() - 1;
@@ -103,6 +132,8 @@ PeripheralsConfig::PeripheralsConfig(const QList<PeripheralListItem> &peripheral
 void PeripheralsConfig::retranslateUi()
 {
     m_title->setText(tr("Peripherals"));
+    for (const Group &g : qAsConst(m_groups))
+        g.header->setText(0, groupTitle(g.name));
     m_expandAction->setText(tr("Expand All"));
     m_foldAction->setText(tr("Fold All"));
 }

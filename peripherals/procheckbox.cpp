@@ -2,25 +2,32 @@
 
 #include "peripherals/modelogic.h"
 
-ProCheckBox::ProCheckBox(ModeControl *control, QWidget *parent)
-    : QCheckBox(control->label, parent), m_control(control)
+ProCheckBox::ProCheckBox(const ModeLogic *logic, int controlIndex, QWidget *parent)
+    : QCheckBox(logic->controls.at(controlIndex).label, parent), m_logic(logic),
+      m_index(controlIndex)
 {
-    setToolTip(m_control->option.diagnosticText);
+    setToolTip(control()->option.diagnosticText);
     judge();
+}
+
+const ModeControl *ProCheckBox::control() const
+{
+    return &m_logic->controls.at(m_index);
 }
 
 QStringList ProCheckBox::blocked() const
 {
-    return m_control->blocked;
+    return control()->blocked;
 }
 
 bool ProCheckBox::judge()
 {
-    const bool semaphoresOk = m_control->semaphoresAllow(1);
+    const ModeControl *c = control();
+    const bool semaphoresOk = c->semaphoresAllow(1);
     if (isChecked()) {
         setEnabled(semaphoresOk);
         return !semaphoresOk;
     }
-    setEnabled(m_control->itemEnabled(1));
+    setEnabled(c->itemEnabled(1));
     return false;
 }

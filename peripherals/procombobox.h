@@ -4,6 +4,7 @@
 
 #include <QStringList>
 
+class ModeLogic;
 struct ModeControl;
 
 // A mode combo box whose items can be blocked by semaphores or by pins: it shows the items
@@ -12,9 +13,13 @@ class ProComboBox : public CustomComboBox
 {
     Q_OBJECT
 public:
-    explicit ProComboBox(ModeControl *control, QWidget *parent = nullptr);
+    // The box shows the control at `controlIndex` of `logic`, which outlives it. The control
+    // is looked up at each use, so that a copy of the logic's controls leaves it unharmed.
+    ProComboBox(const ModeLogic *logic, int controlIndex, QWidget *parent = nullptr);
 
-    ModeControl *control() const { return m_control; }
+    // The control as it stands now; valid until the logic's controls change.
+    const ModeControl *control() const;
+    int controlIndex() const { return m_index; }
     // The semaphores raised so far.
     QStringList blocked() const;
     // Is the item at `index` enabled? Index 0 and indexes outside the list pass.
@@ -25,5 +30,6 @@ public:
     void retranslate();
 
 private:
-    ModeControl *m_control;
+    const ModeLogic *m_logic;
+    int m_index;
 };

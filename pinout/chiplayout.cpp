@@ -1,5 +1,7 @@
 #include "pinout/chiplayout.h"
 
+#include "database/devicecheck.h"
+
 namespace {
 
 void setConstants(ChipLayout &layout, int gap, int pitch, int length, int bodyText, int pinText,
@@ -30,6 +32,11 @@ ChipLayout::Kind ChipLayout::kindOf(const QString &package)
 
 ChipLayout ChipLayout::forPackage(const QString &package, int xPinNum, int yPinNum, int pinNums)
 {
+    // Counts beyond what a package can have draw nothing rather than exhaust memory.
+    const auto bounded = [](int value, int max) { return value >= 0 && value <= max ? value : 0; };
+    xPinNum = bounded(xPinNum, kMaxSidePins);
+    yPinNum = bounded(yPinNum, kMaxSidePins);
+    pinNums = bounded(pinNums, kMaxDevicePins);
     ChipLayout layout;
     layout.kind = kindOf(package);
     switch (layout.kind) {

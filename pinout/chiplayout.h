@@ -34,6 +34,7 @@ struct ChipLayout
 
     // The kind of a package word such as "LQFP", "QFN" or "TSSOP".
     static Kind kindOf(const QString &package);
-    // The layout of a package with its pin counts.
+    // The layout of a package with its pin counts; a count that is negative or beyond the
+    // limits of a device file counts as 0.
     static ChipLayout forPackage(const QString &package, int xPinNum, int yPinNum, int pinNums);
 };

@@ -19,6 +19,9 @@
 #include <QTextDocument>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <QtMath>
+
+#include <cmath>
 
 namespace {
 
@@ -176,6 +179,7 @@ void ChipView::Rotated_Clockwise()
     m_view->rotate(90);
     if (DevicePinInfo *info = devicePinInfo())
         info->rotation = (info->rotation + 90) % 360;
+    orientAllTexts();
 }
 
 void ChipView::Rotated_AnitClockwise()
@@ -183,6 +187,60 @@ void ChipView::Rotated_AnitClockwise()
     m_view->rotate(-90);
     if (DevicePinInfo *info = devicePinInfo())
         info->rotation = (info->rotation + 270) % 360;
+    orientAllTexts();
+}
+
+void ChipView::orientAllTexts()
+{
+    for (auto *list : {&m_nameItems, &m_labelItems}) {
+        for (PinQGraphicsTextItem *text : qAsConst(*list))
+            orientText(text);
+    }
+    for (QGraphicsItem *text : qAsConst(m_bodyTexts))
+        orientText(text);
+}
+
+int ChipView::viewRotation() const
+{
+    const QTransform t = m_view->transform();
+    const int degrees = qRound(qRadiansToDegrees(std::atan2(t.m12(), t.m11())));
+    return ((degrees % 360) + 360) % 360;
+}
+
+void ChipView::orientText(QGraphicsItem *text) const
+{
+    // Side texts turn by a quarter; with the view's turn, a half turn reads upside down.
+    const int turn = ((int(text->rotation()) + viewRotation()) % 360 + 360) % 360;
+    if (turn != 180) {
+        text->setTransform(QTransform());
+        return;
+    }
+    // The item's own transform applies after its rotation: the half turn is about the
+    // centre of the already turned text, so that the text keeps its place.
+    const QPointF c = QTransform().rotate(text->rotation()).map(text->boundingRect().center());
+    text->setTransform(
+        QTransform::fromTranslate(c.x(), c.y()).rotate(180).translate(-c.x(), -c.y()));
+}
+
+QRectF ChipView::sceneExtent() const
+{
+    const QFont font = pixelFont(QStringLiteral("Arial"), m_layout.pinTextHeight);
+    const QFontMetricsF metrics(font);
+    // A user label has at most 16 characters; a label without one lists the lit functions.
+    double widest = metrics.horizontalAdvance(QString(16, QLatin1Char('W')));
+    if (const DevicePinInfo *info = devicePinInfo()) {
+        for (const MCUPinsBaseInfo *pin : info->pins) {
+            QStringList multi;
+            for (const MCUPinSignal *sig : pin->signalList) {
+                widest = std::max(widest, metrics.horizontalAdvance(sig->Func));
+                if (sig->Multi)
+                    multi << sig->Func;
+            }
+            widest = std::max(widest, metrics.horizontalAdvance(multi.join(QStringLiteral("  "))));
+        }
+    }
+    const double margin = pinLength + 2 + widest + 2 * 4 + 20;
+    return QRectF(0, 0, bodyWidth, bodyHeight).adjusted(-margin, -margin, margin, margin);
 }
 
 void ChipView::RedrawScene()
@@ -190,6 +248,7 @@ void ChipView::RedrawScene()
     m_pinItems.clear();
     m_nameItems.clear();
     m_labelItems.clear();
+    m_bodyTexts.clear();
     QGraphicsScene *old = m_scene;
     m_scene = new QGraphicsScene(this);
     m_scene->setBackgroundBrush(Qt::white);
@@ -259,6 +318,8 @@ void ChipView::buildScene()
         }
     }
     refreshPinVisuals();
+    orientAllTexts();
+    m_scene->setSceneRect(sceneExtent());
 }
 
 void ChipView::addBodyTexts(QGraphicsRectItemEXT *body, const ChipLayout &layout)
@@ -289,6 +350,7 @@ void ChipView::addBodyTexts(QGraphicsRectItemEXT *body, const ChipLayout &layout
     logo->setPos(bodyWidth / 2.0 + layout.logoDx + (boxWidth - logoBox.width()) / 2,
                  bodyHeight / 2.0 + layout.logoDy + (layout.logoHeight - logoBox.height()));
     logo->setAcceptedMouseButtons(Qt::NoButton);
+    m_bodyTexts = {model, package, logo};
 }
 
 void ChipView::updatePinTexts(int index)
@@ -301,6 +363,14 @@ void ChipView::updatePinTexts(int index)
     label->setPinInfo(record);
     name->setPlainText(PinAssignEngine::pinNameText(record));
     name->setDefaultTextColor(PinAssignEngine::pinState(record) > 1 ? Qt::white : Qt::black);
+    // The name stays on its pin: a font that draws it longer than the pin is made smaller.
+    QFont nameFont = pixelFont(QStringLiteral("Arial"), m_layout.pinTextHeight);
+    const double room = m_layout.pinLength - 4;
+    while (nameFont.pixelSize() > 5 &&
+           QFontMetricsF(nameFont).horizontalAdvance(name->toPlainText()) > room)
+        nameFont.setPixelSize(nameFont.pixelSize() - 1);
+    if (name->font() != nameFont)
+        name->setFont(nameFont);
     label->setPlainText(PinAssignEngine::pinLabelText(record));
     label->setDefaultTextColor(Qt::black);
 
@@ -327,6 +397,8 @@ void ChipView::updatePinTexts(int index)
         label->setPos(pin.left() + offset, pin.top() + 2);
         break;
     }
+    orientText(name);
+    orientText(label);
 }
 
 void ChipView::refreshPinVisuals()

@@ -12,6 +12,7 @@ class PinQGraphicsRectItem;
 class PinQGraphicsTextItem;
 class QAction;
 class QComboBox;
+class QGraphicsItem;
 class QGraphicsScene;
 class QLabel;
 class QToolBar;
@@ -83,6 +84,15 @@ private:
     void refreshPinVisuals();
     void rebuildSearchList();
     void updatePinTexts(int index);
+    // Turns a text half a turn where the rotation of the view would show it upside down.
+    void orientText(QGraphicsItem *text) const;
+    // orientText() for every text of the drawing.
+    void orientAllTexts();
+    // The turn of the view in degrees, 0, 90, 180 or 270.
+    int viewRotation() const;
+    // The scene's fixed extent: the chip with room for the widest label on every side, so
+    // that a label that appears never shifts the drawing.
+    QRectF sceneExtent() const;
     void stopBlinkAndEdits();
     void search(const QString &text);
 
@@ -102,4 +112,6 @@ private:
     QList<PinQGraphicsRectItem *> m_pinItems;
     QList<PinQGraphicsTextItem *> m_nameItems;
     QList<PinQGraphicsTextItem *> m_labelItems;
+    // The model, package and logo texts on the body.
+    QList<QGraphicsItem *> m_bodyTexts;
 };

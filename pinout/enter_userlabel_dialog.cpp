@@ -1,6 +1,6 @@
 #include "pinout/enter_userlabel_dialog.h"
 
-#include "pinout/pinmessage.h"
+#include "widgets/messagebox.h"
 
 #include <QHBoxLayout>
 #include <QIcon>
@@ -71,16 +71,25 @@ void Enter_UserLabel_Dialog::UserLabel_LineEdit_textEdit(QString editText)
         m_cutting = false;
         if (!warned) {
             warned = true;
-            showPinError(this, tr("Label must be letters/numbers/underscores, and start with a "
-                                  "letter or an underscore."));
+            m_warning = true;
+            tellUser(this, UserMessage::Error, tr("Error"),
+                     tr("Label must be letters/numbers/underscores, and start with a letter "
+                        "or an underscore."));
+            m_warning = false;
         }
     }
     emit UserLabelEditFinished(editText);
+    if (warned && isVisible()) {
+        // The editor stays open on what is left, ready to be typed over.
+        activateWindow();
+        m_edit->setFocus();
+        m_edit->selectAll();
+    }
 }
 
 void Enter_UserLabel_Dialog::Value_LineEdit_editingFinished()
 {
-    if (!isValidLabel(m_edit->text()))
+    if (m_warning || !isValidLabel(m_edit->text()))
         return;
     isEditing = false;
     close();

@@ -34,4 +34,7 @@ private:
     QLabel *m_signalLabel;
     QLineEdit *m_edit;
     bool m_cutting = false;
+    // True while the message about a bad label is up: the focus it takes must not end the
+    // edit.
+    bool m_warning = false;
 };

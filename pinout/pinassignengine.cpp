@@ -321,6 +321,28 @@ const PinsSignalsGroup *PinAssignEngine::litGroupFor(const QString &name, int pi
     return longestGroup(candidates);
 }
 
+bool PinAssignEngine::isOscillatorPin(const MCUPinsBaseInfo *pin)
+{
+    if (!pin)
+        return false;
+    for (const MCUPinSignal *sig : pin->signalList) {
+        if (sig->IOMode == QLatin1String("Oscillator") ||
+            sig->Func.startsWith(QLatin1String("CRM_HEXT")) ||
+            sig->Func.startsWith(QLatin1String("CRM_LEXT")))
+            return true;
+    }
+    return false;
+}
+
+bool PinAssignEngine::groupOnOscillatorPins(const PinsSignalsGroup *group) const
+{
+    for (const GroupSignal &member : group->signalList) {
+        if (isOscillatorPin(activePin(member.pinIndex)))
+            return true;
+    }
+    return false;
+}
+
 bool PinAssignEngine::groupAllPlaceable(const PinsSignalsGroup *group) const
 {
     for (const GroupSignal &member : group->signalList) {
@@ -575,7 +597,17 @@ void PinAssignEngine::placeSignals(const QList<ModeSignal> &valid, const QString
         }
     }
 
-    // The others take the first free pin, leaving a pin to a later signal that has no other.
+    // The others take the first free pin, leaving a pin to a later signal that has no other;
+    // crystal pins come last, so that an oscillator can still be switched on.
+    QList<MCUPinsBaseInfo *> order;
+    for (MCUPinsBaseInfo *pin : pins) {
+        if (!isOscillatorPin(pin))
+            order.append(pin);
+    }
+    for (MCUPinsBaseInfo *pin : pins) {
+        if (isOscillatorPin(pin))
+            order.append(pin);
+    }
     QList<ModeSignal> open;
     for (const Single &single : qAsConst(singles)) {
         if (!single.placed)
@@ -586,8 +618,8 @@ void PinAssignEngine::placeSignals(const QList<ModeSignal> &valid, const QString
         QSet<QString> rest;
         for (int j = i + 1; j < open.size(); ++j)
             rest.insert(open.at(j).signalName);
-        for (int p = 0; p < pins.size(); ++p) {
-            MCUPinsBaseInfo *pin = pins.at(p);
+        for (int p = 0; p < order.size(); ++p) {
+            MCUPinsBaseInfo *pin = order.at(p);
             MCUPinSignal *sig = findSignal(pin, name);
             if (!sig || !pinAccepts(pin, name))
                 continue;
@@ -596,8 +628,8 @@ void PinAssignEngine::placeSignals(const QList<ModeSignal> &valid, const QString
                 bearsRest = bearsRest || rest.contains(other->Func);
             if (bearsRest) {
                 bool laterPin = false;
-                for (int q = p + 1; q < pins.size() && !laterPin; ++q)
-                    laterPin = findSignal(pins.at(q), name) && pinAccepts(pins.at(q), name);
+                for (int q = p + 1; q < order.size() && !laterPin; ++q)
+                    laterPin = findSignal(order.at(q), name) && pinAccepts(order.at(q), name);
                 if (laterPin)
                     continue;
             }
@@ -642,16 +674,24 @@ void PinAssignEngine::placeSignals(const QList<ModeSignal> &valid, const QString
         wanted.append(sig);
     }
 
+    // A lit group stays; otherwise a group that keeps the crystal pins free comes before an
+    // equivalent one that would take them.
     const PinsSignalsGroup *chosen = nullptr;
     if (best && bestCount > 0 && groupFits(best, wanted))
         chosen = best;
-    for (int i = 0; !chosen && i < groups.size(); ++i) {
-        if (groupAllPlaceable(groups.at(i)) && groupFits(groups.at(i), wanted))
-            chosen = groups.at(i);
+    for (bool spareOscillator : {true, false}) {
+        for (int i = 0; !chosen && i < groups.size(); ++i) {
+            if ((!spareOscillator || !groupOnOscillatorPins(groups.at(i))) &&
+                groupAllPlaceable(groups.at(i)) && groupFits(groups.at(i), wanted))
+                chosen = groups.at(i);
+        }
     }
-    for (int i = 0; !chosen && i < groups.size(); ++i) {
-        if (groupFits(groups.at(i), wanted))
-            chosen = groups.at(i);
+    for (bool spareOscillator : {true, false}) {
+        for (int i = 0; !chosen && i < groups.size(); ++i) {
+            if ((!spareOscillator || !groupOnOscillatorPins(groups.at(i))) &&
+                groupFits(groups.at(i), wanted))
+                chosen = groups.at(i);
+        }
     }
     if (!chosen)
         return;

@@ -38,6 +38,9 @@ public:
     static bool isMuxOutput(const QString &ioMode);
     // True for the models on which EVENTOUT may stand on one pin only.
     static bool isEventoutSingleFamily(const QString &model);
+    // True when the pin can carry a crystal of the high or low speed oscillator; such pins
+    // are taken for other signals only when no equivalent placement exists.
+    static bool isOscillatorPin(const MCUPinsBaseInfo *pin);
 
     // --- Building blocks ----------------------------------------------------------------
     bool pinAccepts(const MCUPinsBaseInfo *pin, const QString &name) const;
@@ -54,6 +57,8 @@ public:
     const PinsSignalsGroup *bestGroupFor(const QString &name, int pinNum) const;
     const PinsSignalsGroup *litGroupFor(const QString &name, int pinNum) const;
     bool groupAllPlaceable(const PinsSignalsGroup *group) const;
+    // True when a member of the group stands on an oscillator pin.
+    bool groupOnOscillatorPins(const PinsSignalsGroup *group) const;
     bool groupFits(const PinsSignalsGroup *group, const QList<ModeSignal> &wanted) const;
 
     void dropTmrClaim(const PinsSignalsGroup *group);

@@ -6,7 +6,7 @@
 #include "pinout/custompinaction.h"
 #include "pinout/enter_userlabel_dialog.h"
 #include "pinout/pinassignengine.h"
-#include "pinout/pinmessage.h"
+#include "widgets/messagebox.h"
 
 #include <QBrush>
 #include <QGraphicsSceneMouseEvent>
@@ -214,7 +214,8 @@ void PinQGraphicsRectItem::checkedLibAction(QAction *tmp1Action)
 
     if (picked->isChecked()) {
         if (!m_chipView->engine()->groupPreCheck(name, m_pinInfo.PinNum)) {
-            showPinError(nullptr, tr("Unable to find signal group, switching failed!"));
+            tellUser(nullptr, UserMessage::Error, tr("Error"),
+                     tr("Unable to find signal group, switching failed!"));
             picked->setChecked(false);
             return;
         }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
 #include <random>
 #include <tuple>
 #include <vector>
@@ -28,9 +29,10 @@ struct PllChoice
     double value = 0.0;
 };
 
-// Brute force over every legal setting; ties go to the largest divider, then the smallest
-// ms, then the smallest ns.
-PllChoice bruteForce(const std::vector<int> &dividers, double input, double target, double vcoMax)
+// Brute force over every legal setting; a result up to `limit` beats any above it, and ties
+// go to the largest divider, then the smallest ms, then the smallest ns.
+PllChoice bruteForce(const std::vector<int> &dividers, double input, double target, double vcoMax,
+                     double limit = std::numeric_limits<double>::infinity())
 {
     PllChoice best;
     double bestDiff = 0.0;
@@ -45,8 +47,9 @@ PllChoice bruteForce(const std::vector<int> &dividers, double input, double targ
                     continue;
                 const double value = ns * input / (div * ms);
                 const double diff = std::fabs(value - target);
-                const auto key = std::make_tuple(diff, -div, ms, ns);
-                if (!found || key < std::make_tuple(bestDiff, -best.div, best.ms, best.ns)) {
+                const auto key = std::make_tuple(value > limit + 1e-9, diff, -div, ms, ns);
+                if (!found || key < std::make_tuple(best.value > limit + 1e-9, bestDiff, -best.div,
+                                                    best.ms, best.ns)) {
                     found = true;
                     bestDiff = diff;
                     best = {div, ms, ns, value};
@@ -400,7 +403,14 @@ TEST(ClockCalculator, FlexibleSearchMatchesBruteForce)
                 target *= 2.0;
             }
             s.searchPllFlexible(input, forUsb);
-            const PllChoice want = bruteForce(fpfu ? kFp : kFr, input, target, f->vcoMax);
+            // The system clock and the PLL stay within their limits when a setting allows.
+            double limit = std::numeric_limits<double>::infinity();
+            if (!forUsb) {
+                limit = twice ? 2.0 * f->sclkMax : f->sclkMax;
+                if (f->pllMax > 0.0)
+                    limit = std::min(limit, f->pllMax);
+            }
+            const PllChoice want = bruteForce(fpfu ? kFp : kFr, input, target, f->vcoMax, limit);
             ASSERT_NE(want.div, 0);
             EXPECT_EQ(s.pllms, want.ms) << "target " << target << " input " << input;
             EXPECT_EQ(s.pllns, want.ns) << "target " << target << " input " << input;

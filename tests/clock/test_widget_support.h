@@ -1,6 +1,6 @@
 #pragma once
 
-#include "clock/clockmessage.h"
+#include "widgets/messagebox.h"
 
 #include <QLineEdit>
 #include <QList>
@@ -21,17 +21,17 @@ class MessageRecorder
 public:
     MessageRecorder()
     {
-        setClockMessageHandler([this](QWidget *, const ClockMessage &m) {
+        setUserMessageHandler([this](QWidget *, const UserMessage &m) {
             messages.append(m);
             texts.append(m.text);
-            return answers.isEmpty() ? true : answers.takeFirst();
+            return answers.isEmpty() || answers.takeFirst() ? 0 : 1;
         });
     }
-    ~MessageRecorder() { setClockMessageHandler(nullptr); }
+    ~MessageRecorder() { setUserMessageHandler(nullptr); }
     MessageRecorder(const MessageRecorder &) = delete;
     MessageRecorder &operator=(const MessageRecorder &) = delete;
 
-    QList<ClockMessage> messages;
+    QList<UserMessage> messages;
     QStringList texts;
     QList<bool> answers;
 };

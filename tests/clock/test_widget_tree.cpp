@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
+#include <QTranslator>
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -84,7 +85,7 @@ TEST_F(TreeTest, PllMsFieldKeepsSlashAndAsksToAdjust)
     typeInto(ms, "15");
     ASSERT_EQ(rec.messages.size(), 1);
     EXPECT_EQ(rec.messages[0].title, "Warning");
-    EXPECT_TRUE(rec.messages[0].yesCancel);
+    EXPECT_EQ(rec.messages[0].buttons, QStringList({"Yes", "Cancel"}));
     EXPECT_TRUE(rec.texts[0].startsWith("pll_ms input error, is it adjusted automatically?\nThe"));
     EXPECT_EQ(tree.clockState().pllms, 1);
     EXPECT_DOUBLE_EQ(tree.clockState().sclk, 288.0);
@@ -176,7 +177,7 @@ TEST_F(TreeTest, CheckClockConfigNamesTheBrokenLimit)
     EXPECT_EQ(tree.fieldTextColor("pllout"), kRed);
     EXPECT_FALSE(tree.checkClockConfig());
     EXPECT_EQ(rec.texts, QStringList{"Can not support pll clock less than 16MHz"});
-    EXPECT_EQ(rec.messages[0].kind, ClockMessage::Error);
+    EXPECT_EQ(rec.messages[0].kind, UserMessage::Error);
 }
 
 TEST_F(TreeTest, CheckClockConfigReportsInputFaultsFirst)
@@ -209,7 +210,7 @@ TEST_F(TreeTest, UsbWarningIsAnsweredWithYesOrCancel)
     EXPECT_FALSE(tree.checkClockConfig());
     ASSERT_EQ(rec.texts.size(), 1);
     EXPECT_TRUE(rec.texts[0].startsWith("USB clock must be 48MHz."));
-    EXPECT_TRUE(rec.messages[0].yesCancel);
+    EXPECT_EQ(rec.messages[0].buttons, QStringList({"Yes", "Cancel"}));
     rec.answers = {true};
     EXPECT_TRUE(tree.checkClockConfig());
     EXPECT_EQ(rec.texts.size(), 2);
@@ -370,9 +371,11 @@ TEST_F(TreeTest, ResetKeepsWhatOtherPanelsReported)
     EXPECT_TRUE(ctl<QLineEdit>(tree, "hext")->isEnabled());
 }
 
+namespace {
+
 // Every family's drawing must keep its values readable: no visible control covers another and
 // all lie on the drawing.
-TEST_F(TreeTest, EveryFamilyLaysOutItsControlsWithoutOverlap)
+void expectEveryFamilyWithoutOverlap(const char *condition)
 {
     for (const ClockFamily *f : treeClockFamilies()) {
         std::unique_ptr<MQ48ClockTree> tree(createClockTree(f->model));
@@ -391,14 +394,42 @@ TEST_F(TreeTest, EveryFamilyLaysOutItsControlsWithoutOverlap)
             if (!name.startsWith("cap_") && !inner->isEnabled() && name.isEmpty())
                 continue;
             const QRectF r = proxy->sceneBoundingRect().adjusted(1, 1, -1, -1);
-            EXPECT_TRUE(sheet.contains(r)) << f->name << " " << qPrintable(name);
+            EXPECT_TRUE(sheet.contains(r))
+                << condition << " " << f->name << " " << qPrintable(name);
             for (const auto &other : boxes) {
                 EXPECT_FALSE(other.second.intersects(r))
-                    << f->name << ": " << qPrintable(name) << " overlaps "
+                    << condition << " " << f->name << ": " << qPrintable(name) << " overlaps "
                     << qPrintable(other.first);
             }
             boxes.append({name, r});
         }
         EXPECT_GT(boxes.size(), 40) << f->name;
     }
+}
+
+} // namespace
+
+TEST_F(TreeTest, EveryFamilyLaysOutItsControlsWithoutOverlap)
+{
+    expectEveryFamilyWithoutOverlap("default font");
+}
+
+// The captions are measured in whatever font the machine gives for "Arial": a wide one must
+// not make them run into their neighbours either.
+TEST_F(TreeTest, LayoutHoldsWithAWideFont)
+{
+    const QStringList before = QFont::substitutes(QStringLiteral("Arial"));
+    QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("DejaVu Sans Mono"));
+    expectEveryFamilyWithoutOverlap("wide font");
+    QFont::removeSubstitutions(QStringLiteral("Arial"));
+    QFont::insertSubstitutions(QStringLiteral("Arial"), before);
+}
+
+TEST_F(TreeTest, LayoutHoldsInChinese)
+{
+    QTranslator zh;
+    ASSERT_TRUE(zh.load(QStringLiteral(":/image/tr_zh.qm")));
+    QCoreApplication::installTranslator(&zh);
+    expectEveryFamilyWithoutOverlap("Chinese");
+    QCoreApplication::removeTranslator(&zh);
 }

@@ -3,7 +3,7 @@
 #include "database/paths.h"
 #include "peripherals/ip_modeandconfiguration.h"
 #include "peripherals/paramsettingwidget.h"
-#include "peripherals/peripheralmessage.h"
+#include "widgets/messagebox.h"
 #include "peripherals/peripheralsconfig.h"
 #include "peripherals/procheckbox.h"
 #include "peripherals/procombobox.h"
@@ -31,8 +31,10 @@ public:
     {
         g_language = 0;
         setAppFolderOverride(QStringLiteral(MQ48_SOURCE_DIR));
-        setPeripheralMessageSink(
-            [this](const QString &, const QString &text) { messages << text; });
+        setUserMessageHandler([this](QWidget *, const UserMessage &m) {
+            messages << m.text;
+            return 0;
+        });
         const QString path = deviceFilePath(kSeries, device);
         info.reset(NewDevicePinInfo(path));
         rows = GetPeripheralsList(path);
@@ -64,7 +66,7 @@ public:
     ~T110Design()
     {
         panels.clear();
-        setPeripheralMessageSink({});
+        setUserMessageHandler({});
         setAppFolderOverride(QString());
         g_language = 1;
     }
@@ -133,9 +135,10 @@ TEST(T110EndToEnd, UsartAsynchronousLightsItsPinsAndTheTree)
     T110Design d;
     IP_ModeAndConfiguration *usart = d.panel("USART1");
     ASSERT_NE(usart, nullptr);
-    // Only SCFG, whose one mode needs a TSSOP20 package, has no modes here.
-    EXPECT_EQ(d.messages, QStringList{"No Mode Settings!"});
-    EXPECT_TRUE(d.panel("SCFG")->logic().controls.isEmpty());
+    // SCFG's one mode needs a TSSOP20 package: it has modes, none usable here, and no error.
+    EXPECT_TRUE(d.messages.isEmpty());
+    EXPECT_TRUE(d.panel("SCFG")->hasModes());
+    EXPECT_FALSE(d.panel("SCFG")->hasUsableMode());
     ProComboBox *mode = usart->comboBox("Mode");
     ASSERT_NE(mode, nullptr);
     EXPECT_EQ(d.treeIcon("USART1"), ":/image/background-light.png");

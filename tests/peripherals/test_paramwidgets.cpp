@@ -124,9 +124,10 @@ TEST(ParamSettingWidget, SemaphoresShowRowsAndListsFallBack)
     extra.Expression = "ADV_ON";
     RefParameter byValue = param("ByValue", "integer", "1", "Advanced");
     byValue.Expression = "Mode=ADVANCED";
-    RefParameter choice = param("Choice", "list", "Y");
+    RefParameter choice = param("Choice", "list", "X");
     choice.PossibleValues = {value("X"), value("Y", QString(), "!LOCK")};
     ParamSettingWidget w("MQ48T110", "USART1", {mode, extra, byValue, choice});
+    w.show();
     EXPECT_EQ(w.rows.size(), 2);
     EXPECT_EQ(w.rowOf("Extra"), nullptr);
     EXPECT_EQ(w.paramStatus, IPPARAMSTATUS_VALID);
@@ -139,7 +140,9 @@ TEST(ParamSettingWidget, SemaphoresShowRowsAndListsFallBack)
     EXPECT_NE(w.rowOf("ByValue"), nullptr);
     EXPECT_NE(w.groupItem("Advanced"), nullptr);
 
-    // A semaphore from elsewhere removes the chosen item of "Choice".
+    // A semaphore from elsewhere removes the item the user chose in "Choice".
+    w.rowOf("Choice")->comboBox()->setCurrentIndex(1);
+    settle(w);
     QSignalSpy status(&w, &ParamSettingWidget::SendIPParamStatus);
     w.EnableSemaphore(QStringLiteral("LOCK"));
     settle(w);
@@ -152,6 +155,56 @@ TEST(ParamSettingWidget, SemaphoresShowRowsAndListsFallBack)
     w.CancelSemaphore(QStringLiteral("LOCK"));
     settle(w);
     EXPECT_EQ(w.paramStatus, IPPARAMSTATUS_VALID);
+}
+
+TEST(ParamSettingWidget, ValuesAndStatusAreCompleteBeforeTheRowsAreMade)
+{
+    // Lists that follow a mode, numbers in and out of range, a greyed choice, plain text.
+    RefParameter mode = param("Mode", "list", "SLOW");
+    mode.PossibleValues = {value("SLOW", QString(), "!FAST_ON"),
+                           value("FAST", QString(), "FAST_ON")};
+    RefParameter div = param("Div", "integer", "70");
+    div.Min = "1";
+    div.Max = "64";
+    RefParameter mask = param("Mask", "hexadecimal", "1F");
+    mask.Max = "FFFF";
+    RefParameter greyed = param("Greyed", "list", "B");
+    greyed.PossibleValues = {value("A"), value("B")};
+    greyed.PossibleValues[1].Action = "Grey";
+    RefParameter hidden = param("Hidden", "integer", "999");
+    hidden.Max = "9";
+    hidden.Expression = "SHOW_HIDDEN";
+    RefParameter text = param("Text", "string", "anything");
+    ParamSettingWidget w("MQ48T110", "USART1", {mode, div, mask, greyed, hidden, text});
+    QSignalSpy status(&w, &ParamSettingWidget::SendIPParamStatus);
+
+    // Nothing shown yet: no rows, and the status already counts the two bad values.
+    EXPECT_FALSE(w.rowsBuilt());
+    EXPECT_TRUE(w.rows.isEmpty());
+    EXPECT_EQ(w.paramStatus, IPPARAMSTATUS_INVALID);
+    w.ParamModefySlot("Div", "8");
+    w.ParamModefySlot("Greyed", "A");
+    EXPECT_EQ(w.paramStatus, IPPARAMSTATUS_VALID);
+    ASSERT_GE(status.count(), 1);
+    EXPECT_EQ(status.last().at(1).toInt(), IPPARAMSTATUS_VALID);
+
+    // A semaphore moves the list that follows the mode and shows a bad row, still without rows.
+    w.EnableSemaphore(QStringList{"FAST_ON", "SHOW_HIDDEN"});
+    settle(w);
+    EXPECT_EQ(w.parameterValue("Mode"), "FAST");
+    EXPECT_EQ(w.paramStatus, IPPARAMSTATUS_INVALID);
+    EXPECT_FALSE(w.rowsBuilt());
+
+    // Shown, every row agrees with the status that was worked out without it.
+    w.show();
+    ASSERT_TRUE(w.rowsBuilt());
+    ASSERT_EQ(w.rows.size(), 6);
+    for (const OneParamWidget *row : w.rows) {
+        EXPECT_EQ(row->isValueValid(), row->parameter().Name != "Hidden")
+            << qPrintable(row->parameter().Name);
+    }
+    EXPECT_EQ(w.rowOf("Mask")->lineEdit()->text(), "0x001F");
+    EXPECT_EQ(w.rowOf("Mode")->currentValue(), "FAST");
 }
 
 TEST(ParamSettingWidget, FoldingSurvivesEditsAndEditsCoalesce)

@@ -47,6 +47,14 @@ public:
         return record;
     }
 
+    // Removes the record at `index` of the pin list and frees it with its signals.
+    void dropPin(int index)
+    {
+        MCUPinsBaseInfo *record = info->pins.takeAt(index);
+        qDeleteAll(record->signalList);
+        delete record;
+    }
+
     // Adds a group of (signal, pin number) members; a signal ending in "!" has TMRIPCanUse off.
     void group(const QString &ip, const QList<QPair<QString, int>> &members)
     {

@@ -4,7 +4,7 @@
 #include "pinout/custompinaction.h"
 #include "pinout/enter_userlabel_dialog.h"
 #include "pinout/pingraphicsview.h"
-#include "pinout/pinmessage.h"
+#include "widgets/messagebox.h"
 #include "pinout/pinqgraphicsrectitem.h"
 #include "pinout/pinqgraphicstextitem.h"
 
@@ -26,9 +26,12 @@ struct MessageCatcher
 {
     MessageCatcher()
     {
-        setPinMessageSink([this](const QString &text) { messages.append(text); });
+        setUserMessageHandler([this](QWidget *, const UserMessage &m) {
+            messages.append(m.text);
+            return 0;
+        });
     }
-    ~MessageCatcher() { setPinMessageSink({}); }
+    ~MessageCatcher() { setUserMessageHandler({}); }
     QStringList messages;
 };
 
@@ -328,7 +331,7 @@ TEST(ChipViewRemap, PinItemsShowTheRecordInForce)
 {
     PinFixture f = smallChip();
     f.pin(4, "PA1", {"USART2_TX"}, "NOPINREMAP");
-    f.info->pins.removeAt(3); // the plain PA1 above is replaced by the variant pair
+    f.dropPin(3); // the plain PA1 above is replaced by the variant pair
     f.pin(4, "PB9", {"I2C1_SDA", "CAN_TX"}, "PINREMAP");
     ChipView view(f.info.get());
     EXPECT_EQ(view.pinItem(4)->pinInfo().PinName, "PA1");
