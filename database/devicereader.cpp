@@ -1,5 +1,6 @@
 #include "database/devicereader.h"
 
+#include "database/devicecheck.h"
 #include "database/language.h"
 #include "database/xmlsection.h"
 
@@ -10,6 +11,13 @@ int decimal(const QString &text)
     bool ok = false;
     const int value = text.trimmed().toInt(&ok, 10);
     return ok ? value : 0;
+}
+
+// A pin count of the base section; 0 when it is not a number or beyond `max`.
+int count(const QString &text, int max)
+{
+    const int value = decimal(text);
+    return value >= 0 && value <= max ? value : 0;
 }
 
 QDomElement deviceSection(const QDomElement &root, const char *term)
@@ -118,6 +126,32 @@ bool PinNamesMatch(const QString &first, const QString &second)
     return false;
 }
 
+PinNameIndex::PinNameIndex(const QStringList &pinNames)
+{
+    for (int i = 0; i < pinNames.size(); ++i) {
+        const QString whole = pinNames.at(i).trimmed();
+        if (!m_whole.contains(whole))
+            m_whole.insert(whole, i);
+        for (const QString &part : pinNameParts(pinNames.at(i))) {
+            if (!part.isEmpty() && !m_parts.contains(part))
+                m_parts.insert(part, i);
+        }
+    }
+}
+
+int PinNameIndex::find(const QString &name) const
+{
+    int best = m_whole.value(name.trimmed(), -1);
+    for (const QString &part : pinNameParts(name)) {
+        if (part.isEmpty())
+            continue;
+        const int at = m_parts.value(part, -1);
+        if (at >= 0 && (best < 0 || at < best))
+            best = at;
+    }
+    return best;
+}
+
 bool ReadDevicePinInfo(const QString &devicePath, DevicePinInfo *info)
 {
     if (!info)
@@ -136,10 +170,10 @@ bool ReadDevicePinInfo(const QString &devicePath, DevicePinInfo *info)
         return false;
 
     const QDomElement base = deviceSection(root, "MCUBaseInfo");
-    info->xPinNum = decimal(firstAttribute(base, QStringLiteral("xPinNum")));
+    info->xPinNum = count(firstAttribute(base, QStringLiteral("xPinNum")), kMaxSidePins);
     info->MCUName = firstAttribute(base, QStringLiteral("MCUName"));
-    info->yPinNum = decimal(firstAttribute(base, QStringLiteral("yPinNum")));
-    info->PinNums = decimal(firstAttribute(base, QStringLiteral("PinNums")));
+    info->yPinNum = count(firstAttribute(base, QStringLiteral("yPinNum")), kMaxSidePins);
+    info->PinNums = count(firstAttribute(base, QStringLiteral("PinNums")), kMaxDevicePins);
     info->Package = firstAttribute(base, QStringLiteral("Package"));
 
     const QDomElement pins = deviceSection(root, "PinsList");
@@ -147,14 +181,16 @@ bool ReadDevicePinInfo(const QString &devicePath, DevicePinInfo *info)
         info->pins.append(readPin(e));
 
     QList<PinsSignalsGroup> groups = readGroups(deviceSection(root, "PinsSignalsGroup"));
+    QStringList pinNames;
+    pinNames.reserve(info->pins.size());
+    for (const MCUPinsBaseInfo *pin : qAsConst(info->pins))
+        pinNames.append(pin->PinName);
+    const PinNameIndex index(pinNames);
     for (PinsSignalsGroup &group : groups) {
         for (GroupSignal &signal : group.signalList) {
-            for (const MCUPinsBaseInfo *pin : qAsConst(info->pins)) {
-                if (PinNamesMatch(pin->PinName, signal.PinName)) {
-                    signal.pinIndex = pin->PinNum;
-                    break;
-                }
-            }
+            const int at = index.find(signal.PinName);
+            if (at >= 0)
+                signal.pinIndex = info->pins.at(at)->PinNum;
         }
     }
     for (PinsSignalsGroup &group : groups) {

@@ -2,8 +2,10 @@
 
 #include "database/records.h"
 
+#include <QHash>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 // Readers of a device file: base attributes, pins, signal groups and the peripheral list.
 // A missing or malformed file gives empty results and zero integers, never a message.
@@ -18,10 +20,25 @@ QString GetSectionAttribute(const QString &filePath, const QString &term,
 // "PA11/PA9" and "PA9 (remap)".
 bool PinNamesMatch(const QString &first, const QString &second);
 
+// Finds, for a pin name of a group, the first pin in list order whose name matches it by
+// PinNamesMatch(), in time proportional to the names' parts rather than to the pin count.
+class PinNameIndex
+{
+public:
+    explicit PinNameIndex(const QStringList &pinNames);
+    // The position in the list given to the constructor, -1 when no name matches.
+    int find(const QString &name) const;
+
+private:
+    QHash<QString, int> m_whole; // trimmed name -> first position
+    QHash<QString, int> m_parts; // "/" part of the first word -> first position
+};
+
 // Fills `info` from the device file at `devicePath`: base attributes, pins, groups resolved
 // against the pins with unresolved signals and emptied groups dropped. Any previous content
-// of `info` is discarded. Returns false when the file could not be read (info then holds only
-// the path and zeros).
+// of `info` is discarded. A pin count beyond kMaxDevicePins or kMaxSidePins reads as 0, like
+// one that is not a number. Returns false when the file could not be read (info then holds
+// only the path and zeros).
 bool ReadDevicePinInfo(const QString &devicePath, DevicePinInfo *info);
 
 // The same into a new heap object that the caller owns; never null.

@@ -37,13 +37,31 @@ QString seriesFolder(const QString &series)
     return databaseFolder() + QStringLiteral("/device/") + series;
 }
 
+bool IsPlainFileStem(const QString &name)
+{
+    return !name.isEmpty() && !name.contains(QLatin1Char('/')) &&
+           !name.contains(QLatin1Char('\\')) && !name.contains(QLatin1String(".."));
+}
+
+namespace {
+bool plainParts(const QString &series, const QString &name, const QString &version)
+{
+    return IsPlainFileStem(series) && IsPlainFileStem(name) &&
+           (version.isEmpty() || IsPlainFileStem(version));
+}
+} // namespace
+
 QString deviceFilePath(const QString &series, const QString &device)
 {
+    if (!IsPlainFileStem(series) || !IsPlainFileStem(device))
+        return QString();
     return seriesFolder(series) + QLatin1Char('/') + device + QStringLiteral(".xml");
 }
 
 QString peripheralFilePath(const QString &series, const QString &name, const QString &version)
 {
+    if (!plainParts(series, name, version))
+        return QString();
     return seriesFolder(series) + QStringLiteral("/Peripherals/") + name + QLatin1Char('-') +
            version + QStringLiteral(".xml");
 }
@@ -51,6 +69,8 @@ QString peripheralFilePath(const QString &series, const QString &name, const QSt
 QString secondaryPeripheralFilePath(const QString &series, const QString &name,
                                     const QString &version)
 {
+    if (!plainParts(series, name, version))
+        return QString();
     return seriesFolder(series) + QStringLiteral("/device/Peripherals/") + name +
            QLatin1Char('-') + version + QStringLiteral(".xml");
 }

@@ -338,13 +338,18 @@ QStringList ExpandSignalRange(const QString &nameAttribute)
         QRegExp first(QStringLiteral("([A-Z]+)([0-9]+)"));
         QRegExp second(QStringLiteral("([A-Z]+)([0-9]+)"));
         if (parts.size() == 2 && first.indexIn(parts[0]) >= 0 && second.indexIn(parts[1]) >= 0) {
-            const QString letters = first.cap(1);
-            const int from = first.cap(2).toInt();
-            const int to = second.cap(2).toInt();
-            QStringList names;
-            for (int i = from; i <= to; ++i)
-                names.append(letters + QString::number(i));
-            return names;
+            bool fromOk = false;
+            bool toOk = false;
+            const qint64 from = first.cap(2).toLongLong(&fromOk);
+            const qint64 to = second.cap(2).toLongLong(&toOk);
+            // A bound that is no usable number, or a range beyond any peripheral, is no range.
+            if (fromOk && toOk && to - from < kMaxSignalRange) {
+                const QString letters = first.cap(1);
+                QStringList names;
+                for (qint64 k = 0; k <= to - from; ++k)
+                    names.append(letters + QString::number(from + k));
+                return names;
+            }
         }
     }
     return QStringList{nameAttribute};

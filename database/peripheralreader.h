@@ -67,8 +67,12 @@ QList<NVICInterrupt> GetNVICInterrupts(const IPNode &root);
 // The DMA requests of a DMA or EDMA file.
 QList<DMARequestInfo> GetDMARequests(const IPNode &root);
 
+// The most names that one signal range may stand for.
+constexpr int kMaxSignalRange = 256;
+
 // The short names that a level-4 signal attribute stands for: a "--" range as CH1--CH4, or
-// the text itself.
+// the text itself. A range of more than kMaxSignalRange names, or with a bound too large for
+// a number, stands for the text itself.
 QStringList ExpandSignalRange(const QString &nameAttribute);
 
 // The full signal name of a short name for an instance ("TX" of "USART1" is "USART1_TX").

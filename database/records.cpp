@@ -1,5 +1,7 @@
 #include "database/records.h"
 
+#include <algorithm>
+
 #include <QMetaType>
 
 QString IPNode::attribute(const QString &name) const
@@ -33,6 +35,28 @@ void DevicePinInfo::clearPins()
         delete pin;
     }
     pins.clear();
+}
+
+QList<const MCUPinsBaseInfo *> DevicePinInfo::activePinsByNumber() const
+{
+    QList<const MCUPinsBaseInfo *> out;
+    for (const MCUPinsBaseInfo *pin : pins) {
+        if (pin->remapOff)
+            out << pin;
+    }
+    std::stable_sort(
+        out.begin(), out.end(),
+        [](const MCUPinsBaseInfo *a, const MCUPinsBaseInfo *b) { return a->PinNum < b->PinNum; });
+    return out;
+}
+
+const RefParameter *FindParameter(const QList<RefParameter> &list, const QString &name)
+{
+    for (const RefParameter &p : list) {
+        if (p.Name == name)
+            return &p;
+    }
+    return nullptr;
 }
 
 void registerRecordMetaTypes()

@@ -136,6 +136,8 @@ public:
 
     // Deletes every pin and its signals and empties `pins`.
     void clearPins();
+    // The pins of the package in use (remapOff), by pin number.
+    QList<const MCUPinsBaseInfo *> activePinsByNumber() const;
 
     QString MCUName;
     int xPinNum = 0;
@@ -346,6 +348,9 @@ struct DMARequestInfo
 
 // Registers the records that travel through queued signal connections, and the names
 // "IPSTATUS" and "IPPARAMSTATUS" as aliases of int.
+// The parameter of `list` named `name`, or null.
+const RefParameter *FindParameter(const QList<RefParameter> &list, const QString &name);
+
 void registerRecordMetaTypes();
 
 Q_DECLARE_METATYPE(MCUPinsBaseInfo)

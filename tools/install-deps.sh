@@ -10,6 +10,8 @@ PACKAGES=(
     libgtest-dev
     fonts-noto-cjk fonts-dejavu-core
     xvfb xauth
+    gcc-arm-none-eabi libnewlib-arm-none-eabi
+    poppler-utils
 )
 missing=()
 for p in "${PACKAGES[@]}"; do

@@ -130,6 +130,17 @@ def cover():
     return svg(w, h, body)
 
 
+def page_footer():
+    """The band at the foot of every page of the PDF report."""
+    w, h = 1200, 20
+    body = gradient("g", TEAL, BLUE)
+    body += '<rect width="%d" height="%d" rx="3" fill="url(#g)"/>' % (w, h)
+    body += ('<text x="%d" y="14.5" text-anchor="end" font-family="%s" font-weight="bold" '
+             'font-size="11" fill="%s" letter-spacing="1">VELMORA TECHNOLOGY</text>'
+             % (w - 12, FONT, WHITE))
+    return svg(w, h, body)
+
+
 # --- Arrows ---------------------------------------------------------------------------------
 
 def chevron(direction, colour, width=2.5, size=16):
@@ -377,6 +388,8 @@ IMAGES = {
     "Logo_1": (wordmark(200, 48, 1.0, False), 200, 48),
     "Velmora_log": (wordmark(400, 96, 1.6, True), 400, 96),
     "PPT cover": (cover(), 520, 300),
+    "velmora": (wordmark(200, 48, 1.0, True), 200, 48),
+    "pagefooter": (page_footer(), 2400, 40),
     "icon_down_white": (chevron("down", WHITE), 16, 16),
     "icon_right_white": (chevron("right", WHITE), 16, 16),
     "down-arrow": (triangle("down", BLUE), 16, 16),
