@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 #include <QLineEdit>
+#include <QPair>
+#include <QStyle>
 
 QString SramSizeText(const MCUListItem &device)
 {
@@ -31,7 +33,19 @@ void ShowDeviceFields(const QList<MCUListItem> &devices, int index, QLineEdit *p
         return;
     }
     const MCUListItem &item = devices.at(index);
-    package->setText(item.Package);
-    flash->setText(item.Flash);
-    sram->setText(SramSizeText(item));
+    const QList<QPair<QLineEdit *, QString>> fields = {
+        {package, item.Package}, {flash, item.Flash}, {sram, SramSizeText(item)}};
+    for (const auto &field : fields) {
+        QLineEdit *edit = field.first;
+        edit->setText(field.second);
+        // The whole text shows from its start, measured in the font the field has.
+        edit->setCursorPosition(0);
+        edit->setToolTip(field.second);
+        const QMargins m = edit->textMargins();
+        const int needed = edit->fontMetrics().horizontalAdvance(field.second) + m.left() +
+                           m.right() +
+                           2 * edit->style()->pixelMetric(QStyle::PM_DefaultFrameWidth) + 8;
+        if (edit->minimumWidth() < needed)
+            edit->setMinimumWidth(needed);
+    }
 }

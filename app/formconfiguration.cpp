@@ -1,19 +1,39 @@
 #include "app/formconfiguration.h"
 
+#include "app/designsession.h"
+#include "app/generatecodeaction.h"
+#include "app/generatereportaction.h"
 #include "app/languagesetting.h"
+#include "app/modaldialogs.h"
 #include "app/new_design_select.h"
 #include "app/recentdesigns.h"
 #include "app/version.h"
 #include "app/versionabout.h"
 #include "app/workformrules.h"
 #include "clock/mq48pllconfig.h"
+#include "codeview/findtext.h"
+#include "codeview/formcodeview.h"
+#include "database/devicecheck.h"
 #include "database/language.h"
 #include "database/paths.h"
+#include "packages/packagemanager.h"
+#include "packages/versioncheck.h"
+#include "peripherals/dma_configuration.h"
+#include "peripherals/dmarequestmodel.h"
+#include "peripherals/dmasettingwidget.h"
+#include "peripherals/gpio_configuration.h"
+#include "peripherals/gpiosettingsmodel.h"
+#include "peripherals/gpiosettingwidget.h"
 #include "peripherals/ip_modeandconfiguration.h"
 #include "peripherals/modefamilytables.h"
+#include "peripherals/nvic_configuration.h"
+#include "peripherals/nvicmodel.h"
+#include "peripherals/paramsettingwidget.h"
 #include "peripherals/peripheralsconfig.h"
 #include "peripherals/procheckbox.h"
 #include "pinout/chipview.h"
+#include "project/projectsetting.h"
+#include "widgets/messagebox.h"
 
 #include <QAction>
 #include <QApplication>
@@ -22,6 +42,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -29,12 +50,12 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QScreen>
 #include <QSplitter>
 #include <QToolBar>
+#include <QTimer>
 #include <QTranslator>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -43,29 +64,17 @@ namespace {
 
 const char *const kArial = "Arial";
 
-// Shows a modal message box with the given buttons and returns the index of the one pressed,
-// or -1 when the box was closed otherwise.
-int askUser(QWidget *parent, QMessageBox::Icon icon, const QString &title, const QString &text,
+// Shows a modal message with the given buttons and returns the index of the one pressed, or
+// -1 when the box was closed otherwise.
+int askUser(QWidget *parent, UserMessage::Kind kind, const QString &title, const QString &text,
             const QStringList &buttons)
 {
-    QMessageBox box(icon, title, text, QMessageBox::NoButton, parent);
-    QList<QPushButton *> pushButtons;
-    for (int i = 0; i < buttons.size(); ++i) {
-        const auto role = i == 0 ? QMessageBox::AcceptRole
-                          : (i == buttons.size() - 1 && buttons.size() > 1)
-                              ? QMessageBox::RejectRole
-                              : QMessageBox::DestructiveRole;
-        pushButtons << box.addButton(buttons.at(i), role);
-    }
-    if (!pushButtons.isEmpty())
-        box.setDefaultButton(pushButtons.first());
-    box.exec();
-    return pushButtons.indexOf(qobject_cast<QPushButton *>(box.clickedButton()));
+    return showUserMessage(parent, {kind, title, text, buttons});
 }
 
-void tell(QWidget *parent, QMessageBox::Icon icon, const QString &title, const QString &text)
+void tell(QWidget *parent, UserMessage::Kind kind, const QString &title, const QString &text)
 {
-    askUser(parent, icon, title, text, {FormConfiguration::tr("Ok")});
+    askUser(parent, kind, title, text, {FormConfiguration::tr("Ok")});
 }
 
 QAction *makeAction(QObject *parent, const QString &iconPath = QString())
@@ -98,6 +107,12 @@ FormConfiguration::FormConfiguration(QWidget *parent) : QWidget(parent)
 
     setWindowState(windowState() | Qt::WindowMaximized);
 
+    // The title tells whether the design has unsaved changes; a panel change can come from
+    // anywhere, so the title looks now and then rather than at every signal.
+    m_titleTimer = new QTimer(this);
+    m_titleTimer->setInterval(1000);
+    connect(m_titleTimer, &QTimer::timeout, this, &FormConfiguration::updateTitle);
+
     connect(m_pinButton, &QPushButton::clicked, this,
             &FormConfiguration::PINConfig_PushButton_Clicked);
     connect(m_clockButton, &QPushButton::clicked, this,
@@ -106,6 +121,8 @@ FormConfiguration::FormConfiguration(QWidget *parent) : QWidget(parent)
             &FormConfiguration::CodeView_PushButton_Clicked);
     connect(pllPage, &MQ48PLLConfig::SendClockHaveErrorSignal, this,
             &FormConfiguration::ReciveClockHaveErrorSignal);
+    // Owns the generator thread, which reports to CodeView_Generate_Finished.
+    m_codeGeneration = new GenerateCodeAction(this);
 }
 
 FormConfiguration::~FormConfiguration()
@@ -188,11 +205,6 @@ void FormConfiguration::createActions()
     for (QAction *a : {m_homeAction, m_homeToolAction})
         connect(a, &QAction::triggered, this, &FormConfiguration::GoToHomePage_Triggered);
 
-    // Saving and opening, the package manager, the report, code generation and the version
-    // download arrive with their own subsystems; until then their actions are shown disabled.
-    for (QAction *a : {m_openAction, m_saveAction, m_saveAsAction, m_packageAction, m_reportAction,
-                       m_generateAction, m_generateToolAction, m_downloadAction})
-        a->setEnabled(false);
     // The drawing's actions work once a design exists.
     for (QAction *a : {m_zoomInAction, m_zoomOutAction, m_zoomResetAction, m_resetAllAction,
                        m_rotateAction, m_rotateBackAction})
@@ -283,13 +295,10 @@ void FormConfiguration::createPages()
         b->setMinimumHeight(32);
         b->setCursor(Qt::PointingHandCursor);
     }
-    // The code view arrives with its own subsystem.
-    m_codeButton->setEnabled(false);
-
     pllPage = new MQ48PLLConfig(this);
     pllPage->hide();
-    m_codeViewPage = new QWidget(this);
-    m_codeViewPage->hide();
+    codeView = new FormCodeView(this);
+    codeView->hide();
 
     auto *topRow = new QHBoxLayout;
     topRow->setContentsMargins(0, 0, 0, 0);
@@ -313,7 +322,7 @@ void FormConfiguration::createPages()
     m_mainLayout->addLayout(buttonRow);
     m_mainLayout->addWidget(m_splitter, 1);
     m_mainLayout->addWidget(pllPage, 1);
-    m_mainLayout->addWidget(m_codeViewPage, 1);
+    m_mainLayout->addWidget(codeView, 1);
 
     styleButtons(m_pinButton);
 }
@@ -391,6 +400,19 @@ bool FormConfiguration::buildDesign(const QString &series, const QString &device
     // An empty selection (an empty catalogue) still opens, as an empty package.
     if (m_building)
         return false;
+    // A device file that can't carry a design is named once, and the open design stays.
+    if (!device.isEmpty()) {
+        const QString path = deviceFilePath(series, device);
+        const QString problem = DeviceFileProblem(path);
+        if (!problem.isEmpty()) {
+            tell(this, UserMessage::Error, tr("Error"),
+                 tr("The device file %1 can not be opened.\n%2")
+                     .arg(QDir::toNativeSeparators(
+                              path.isEmpty() ? series + QLatin1Char('/') + device : path),
+                          problem));
+            return false;
+        }
+    }
     m_building = true;
     tearDownDesign();
 
@@ -402,12 +424,23 @@ bool FormConfiguration::buildDesign(const QString &series, const QString &device
 
     buildPanels();
 
+    // One project manager per design; it starts from the settings and the device.
+    m_projectSetting = new ProjectSetting(this);
+    ProjectTarget target;
+    target.series = m_design.series;
+    target.device = m_design.mcuName;
+    m_projectSetting->setTarget(target);
+    connect(m_projectSetting, &ProjectSetting::SendOpenPackageManager, this,
+            [this] { openPackageManager(m_projectSetting); });
+
     setButtonWarning(m_pinButton, false);
     setButtonWarning(m_clockButton, false);
     setButtonWarning(m_codeButton, false);
     designOpen = true;
     showPinPage();
     m_building = false;
+    markDesignSaved();
+    m_titleTimer->start();
     return true;
 }
 
@@ -417,12 +450,6 @@ void FormConfiguration::buildPanels()
     if (QScreen *primary = QGuiApplication::primaryScreen())
         screen = primary->availableGeometry();
 
-    peripheralsConfig = new PeripheralsConfig(m_design.peripheralList);
-    peripheralsConfig->hide();
-    m_splitter->addWidget(peripheralsConfig);
-    connect(peripheralsConfig, &PeripheralsConfig::SendIPName, this,
-            &FormConfiguration::GetSelectIPName);
-
     chipView = new ChipView(m_design.devicePinInfo);
 
     QProgressDialog progress(tr("Loading......"), QString(), 0, m_design.peripheralList.size(),
@@ -431,6 +458,10 @@ void FormConfiguration::buildPanels()
     progress.setFont(QFont(QString::fromLatin1(kArial)));
     progress.setStyleSheet(QStringLiteral("QProgressDialog {border-image: url(:/image/PPT "
                                           "cover.png);}"));
+    // Room for the text beside the picture of the cover, in the font the machine has.
+    progress.setMinimumSize(
+        qMax(420, progress.fontMetrics().horizontalAdvance(tr("Loading......")) + 300),
+        progress.sizeHint().height() + 40);
     progress.setWindowModality(Qt::ApplicationModal);
     progress.setMinimumDuration(0);
     progress.setValue(0);
@@ -440,16 +471,36 @@ void FormConfiguration::buildPanels()
     auto *panelLayout = new QVBoxLayout(m_panelArea);
     panelLayout->setContentsMargins(0, 0, 0, 0);
 
+    createSystemModels();
+    // A peripheral whose modes all need pins this package lacks has nothing to offer here:
+    // it gets neither a panel nor a row in the tree.
+    QList<PeripheralListItem> listed;
     int done = 0;
     for (const PeripheralListItem &row : m_design.peripheralList) {
         if (!DesignLoader::isSystemBlock(row.InstanceName)) {
             IP_ModeAndConfiguration *panel = createModePanel(row);
-            panelLayout->addWidget(panel);
+            if (panel->hasModes() && !panel->hasUsableMode()) {
+                ipPanels.removeAll(panel);
+                m_panelsByName.remove(row.InstanceName);
+                panel->disconnect();
+                delete panel;
+            } else {
+                panelLayout->addWidget(panel);
+                listed << row;
+            }
+        } else {
+            listed << row;
         }
         progress.setValue(++done);
         QCoreApplication::processEvents();
     }
-    // Then the GPIO panel, one DMA panel per entry of dmaTrees, and the NVIC panel.
+    createSystemPanels(panelLayout);
+
+    peripheralsConfig = new PeripheralsConfig(listed);
+    peripheralsConfig->hide();
+    m_splitter->addWidget(peripheralsConfig);
+    connect(peripheralsConfig, &PeripheralsConfig::SendIPName, this,
+            &FormConfiguration::GetSelectIPName);
 
     connect(chipView, &ChipView::SendAllConfigedSignals, this,
             &FormConfiguration::ReciveAllConfigedSignals);
@@ -464,6 +515,9 @@ void FormConfiguration::buildPanels()
     peripheralsConfig->show();
     for (IP_ModeAndConfiguration *panel : qAsConst(ipPanels))
         panel->UpdateAllConfigedSignals(m_design.devicePinInfo, false, panel->instanceName());
+    if (m_gpioPanel)
+        m_gpioPanel->ReciveAllConfigedSignals(m_design.devicePinInfo, false, QString());
+    refreshSystemModels();
 
     connect(m_zoomInAction, &QAction::triggered, chipView, &ChipView::ZoomIn);
     connect(m_zoomOutAction, &QAction::triggered, chipView, &ChipView::ZoomOut);
@@ -474,6 +528,129 @@ void FormConfiguration::buildPanels()
     for (QAction *a : {m_zoomInAction, m_zoomOutAction, m_zoomResetAction, m_resetAllAction,
                        m_rotateAction, m_rotateBackAction})
         a->setEnabled(true);
+}
+
+void FormConfiguration::createSystemModels()
+{
+    m_gpioModel = new GpioSettingsModel(m_design.gpioTree, this);
+    m_nvicModel = new NvicModel(m_design.nvicTree, this);
+    for (const DMATree &tree : qAsConst(m_design.dmaTrees)) {
+        auto *model = new DmaRequestModel(tree.name, tree.tree, m_design.series, this);
+        connect(model, &DmaRequestModel::changed, this, [this, model] {
+            // The tree shows whether the controller has requests, whichever table changed.
+            if (peripheralsConfig)
+                peripheralsConfig->ReceiveIPStatusFlag(
+                    model->name(),
+                    model->requests().isEmpty() ? IPSTATUS_INACTIVE : IPSTATUS_ACTIVE, false);
+            refreshNvicAvailability();
+        });
+        m_dmaModels << model;
+    }
+    // Labels given in any GPIO table reach the drawing.
+    connect(m_gpioModel, &GpioSettingsModel::labelChanged, chipView,
+            &ChipView::ReceiveGPIOSignalsUserLabelChange);
+}
+
+void FormConfiguration::createSystemPanels(QLayout *panelLayout)
+{
+    QHash<QString, QString> owners;
+    for (IP_ModeAndConfiguration *panel : qAsConst(ipPanels)) {
+        panel->setSystemModels(m_gpioModel, m_nvicModel, m_dmaModels);
+        panel->setClockPage(pllPage);
+        for (const QString &name : panel->signalNames()) {
+            if (!owners.contains(name))
+                owners.insert(name, panel->instanceName());
+        }
+    }
+    m_gpioModel->setSignalOwners(owners);
+
+    const QList<PeripheralListItem> &rows = m_design.peripheralList;
+    if (DesignLoader::listsBlock(rows, QStringLiteral("GPIO"))) {
+        m_gpioPanel = new GPIO_Configuration(m_gpioModel);
+        m_gpioPanel->hide();
+        connect(m_gpioPanel, &GPIO_Configuration::SendIPStatusFlag, this,
+                &FormConfiguration::ReceiveIPStatusFlag);
+        connect(m_gpioPanel, &GPIO_Configuration::SendGPIOQuerySignals, chipView,
+                &ChipView::ReceiveGPIOQuerySignals);
+        connect(m_gpioPanel, &GPIO_Configuration::SendGPIOSettingChangeSignals1, this,
+                &FormConfiguration::ReceiveSingleGPIOSettingChangeSignals);
+        m_panelsByName.insert(QStringLiteral("GPIO"), m_gpioPanel);
+        panelLayout->addWidget(m_gpioPanel);
+    }
+    for (DmaRequestModel *model : qAsConst(m_dmaModels)) {
+        auto *panel = new DMA_Configuration(model);
+        panel->hide();
+        using StatusFlag = void (DMA_Configuration::*)(QString, IPSTATUS, bool);
+        connect(panel, static_cast<StatusFlag>(&DMA_Configuration::SendIPStatusFlag), this,
+                &FormConfiguration::ReceiveIPStatusFlag);
+        connect(panel, &DMA_Configuration::SendDMARequestChangeSignals, this,
+                &FormConfiguration::ReceiveSingleDMARequestInfoChangeSignals);
+        m_dmaPanels << panel;
+        m_panelsByName.insert(model->name(), panel);
+        panelLayout->addWidget(panel);
+    }
+    if (DesignLoader::listsBlock(rows, QStringLiteral("NVIC"))) {
+        m_nvicPanel = new NVIC_Configuration(m_nvicModel);
+        m_nvicPanel->hide();
+        m_panelsByName.insert(QStringLiteral("NVIC"), m_nvicPanel);
+        panelLayout->addWidget(m_nvicPanel);
+    }
+}
+
+QSet<QString> FormConfiguration::configuredInstances() const
+{
+    QSet<QString> configured;
+    for (IP_ModeAndConfiguration *panel : ipPanels) {
+        if (panel->modeActive())
+            configured.insert(panel->instanceName());
+    }
+    return configured;
+}
+
+QSet<int> FormConfiguration::exintInterruptLines() const
+{
+    // The lines whose event setting is the interrupt, among the rows the EXINT panel shows.
+    QSet<int> lines;
+    IP_ModeAndConfiguration *exint = modePanel(QStringLiteral("EXINT"));
+    if (!exint || !exint->modeActive() || !exint->paramSettingWidget())
+        return lines;
+    const ParamSettingWidget *params = exint->paramSettingWidget();
+    const QString prefix = QStringLiteral("InterruptEvent_EXINT");
+    for (const RefParameter &p : params->parameters) {
+        if (!p.Name.startsWith(prefix) || p.Value != QLatin1String("EXINT_LINE_INTERRUPUT") ||
+            !params->isParameterVisible(p))
+            continue;
+        bool ok = false;
+        const int line = p.Name.mid(prefix.size()).toInt(&ok);
+        if (ok)
+            lines.insert(line);
+    }
+    return lines;
+}
+
+void FormConfiguration::refreshSystemModels()
+{
+    const QSet<QString> configured = configuredInstances();
+    for (DmaRequestModel *model : qAsConst(m_dmaModels)) {
+        model->setConfigured(configured);
+        model->releaseUnconfigured();
+    }
+    refreshNvicAvailability();
+}
+
+void FormConfiguration::refreshNvicAvailability()
+{
+    if (!m_nvicModel)
+        return;
+    NvicAvailability availability;
+    availability.configured = configuredInstances();
+    availability.exintLines = exintInterruptLines();
+    for (DmaRequestModel *model : qAsConst(m_dmaModels)) {
+        const QMap<QString, QStringList> channels = model->channelsByInstance();
+        for (auto it = channels.cbegin(); it != channels.cend(); ++it)
+            availability.dmaChannelsByInstance[it.key()] << it.value();
+    }
+    m_nvicModel->updateAvailability(availability);
 }
 
 IP_ModeAndConfiguration *FormConfiguration::createModePanel(const PeripheralListItem &row)
@@ -514,6 +691,12 @@ IP_ModeAndConfiguration *FormConfiguration::createModePanel(const PeripheralList
          m_design.series == QLatin1String("MQ48T210")))
         connect(pllPage, &MQ48PLLConfig::SendI2SF5ClockSourceChangeSignal, panel,
                 &P::ReciveI2SF5ClockSourceChangeSignal);
+    // Every parameter panel, shown or not, follows the clock tree.
+    if (ParamSettingWidget *params = panel->paramSettingWidget()) {
+        connect(pllPage, &MQ48PLLConfig::SendClockChangedSignal, params,
+                &ParamSettingWidget::ReciveClockChangedSignal);
+        params->setClockPage(pllPage);
+    }
 
     ipPanels << panel;
     m_panelsByName.insert(row.InstanceName, panel);
@@ -568,6 +751,15 @@ void FormConfiguration::tearDownDesign()
         delete panel;
     m_panelsByName.clear();
     ipPanels.clear();
+    m_gpioPanel = nullptr;
+    m_nvicPanel = nullptr;
+    m_dmaPanels.clear();
+    delete m_gpioModel;
+    m_gpioModel = nullptr;
+    delete m_nvicModel;
+    m_nvicModel = nullptr;
+    qDeleteAll(m_dmaModels);
+    m_dmaModels.clear();
     m_modePanelStatus.clear();
     delete m_panelArea;
     m_panelArea = nullptr;
@@ -575,6 +767,9 @@ void FormConfiguration::tearDownDesign()
     chipView = nullptr;
     delete peripheralsConfig;
     peripheralsConfig = nullptr;
+
+    delete m_projectSetting;
+    m_projectSetting = nullptr;
 
     m_design.clear();
     designPath.clear();
@@ -600,7 +795,7 @@ void FormConfiguration::showPinPage()
 {
     m_splitter->show();
     pllPage->hide();
-    m_codeViewPage->hide();
+    codeView->hide();
     styleButtons(m_pinButton);
 }
 
@@ -612,25 +807,156 @@ void FormConfiguration::PINConfig_PushButton_Clicked()
 void FormConfiguration::ClockConfig_PushButton_Clicked()
 {
     m_splitter->hide();
-    m_codeViewPage->hide();
+    codeView->hide();
     pllPage->show();
     styleButtons(m_clockButton);
 }
 
 void FormConfiguration::CodeView_PushButton_Clicked()
 {
-    // The checks of the generate flow and the code view come with code generation; the
-    // button stays disabled until then.
+    if (!designOpen)
+        return;
+    // The checks bring the page forward that holds a problem; only generated files are shown.
+    if (m_codeGeneration->generateForCodeView() !=
+        GenerateCodeAction::CodeViewOutcome::Generated)
+        return;
+    codeView->showGeneratedFiles(m_codeGeneration->outputFolder(),
+                                 findtext::codeFileStem(m_design.series));
+    m_splitter->hide();
+    pllPage->hide();
+    codeView->show();
+    styleButtons(m_codeButton);
 }
 
 // ----------------------------------------------------------------------------------------
 // File menu
 
+QByteArray FormConfiguration::currentDesignXml() const
+{
+    return designDocumentToXml(collectDesign(*this));
+}
+
+ProjectInfo FormConfiguration::projectInfo() const
+{
+    return m_projectSetting ? m_projectSetting->toProjectInfo() : ProjectInfo();
+}
+
+void FormConfiguration::setProjectInfo(const ProjectInfo &info)
+{
+    if (m_projectSetting)
+        m_projectSetting->setProjectInfo(info);
+}
+
+void FormConfiguration::markDesignSaved()
+{
+    m_savedXml = designOpen ? currentDesignXml() : QByteArray();
+    updateTitle();
+}
+
+bool FormConfiguration::isDesignModified() const
+{
+    return designOpen && currentDesignXml() != m_savedXml;
+}
+
+void FormConfiguration::updateTitle()
+{
+    if (!designOpen) {
+        setWindowTitle(QString::fromLatin1(MQ48_VERSION_TITLE));
+        setWindowModified(false);
+        return;
+    }
+    const QString name = designPath.isEmpty() ? m_design.mcuName + tr(" (not saved)")
+                                              : QFileInfo(designPath).fileName();
+    setWindowTitle(name + QStringLiteral("[*] - ") + QString::fromLatin1(MQ48_VERSION_TITLE));
+    if (isVisible() || !m_savedXml.isEmpty())
+        setWindowModified(isDesignModified());
+}
+
+void FormConfiguration::flushPanelUpdates()
+{
+    for (IP_ModeAndConfiguration *panel : qAsConst(ipPanels)) {
+        if (ParamSettingWidget *params = panel->paramSettingWidget()) {
+            params->modeThread.wait();
+            QCoreApplication::sendPostedEvents(params, QEvent::MetaCall);
+        }
+        QCoreApplication::sendPostedEvents(panel, QEvent::MetaCall);
+    }
+}
+
+bool FormConfiguration::writeDesign(const QString &path, QString *error)
+{
+    flushPanelUpdates();
+    return writeDesignDocument(path, collectDesign(*this), error);
+}
+
 bool FormConfiguration::saveDesign()
 {
-    tell(this, QMessageBox::Information, tr("Information"),
-         tr("Saving a design is not available in this version. The design stays open."));
-    return false;
+    if (!designOpen)
+        return false;
+    if (designPath.isEmpty())
+        return saveDesignAs();
+    QString error;
+    if (!writeDesign(designPath, &error)) {
+        tell(this, UserMessage::Error, tr("Error"), tr("Save file error!"));
+        return false;
+    }
+    AddRecentDesign(designPath);
+    refreshRecentMenu();
+    markDesignSaved();
+    tell(this, UserMessage::Information, tr("Information"), tr("Save file finished!"));
+    return true;
+}
+
+bool FormConfiguration::saveDesignAs()
+{
+    if (!designOpen)
+        return false;
+    const QString proposed =
+        designPath.isEmpty() ? m_design.mcuName + QStringLiteral("_PinForge.MQPF") : designPath;
+    const QString path = QFileDialog::getSaveFileName(
+        this, tr("Save"), proposed, tr("MQ48 Pin Forge Design File (*.MQPF)"));
+    if (path.isEmpty())
+        return false;
+    designPath = path;
+    return saveDesign();
+}
+
+bool FormConfiguration::openDesign(const QString &path)
+{
+    QProgressDialog progress(this);
+    progress.setWindowTitle(tr("MQ48 Pin Forge"));
+    progress.setLabelText(tr("Loading......"));
+    progress.setCancelButton(nullptr);
+    progress.setRange(0, kDesignReplaySteps);
+    progress.setWindowModality(Qt::WindowModal);
+    progress.setMinimumDuration(300);
+    const DesignOpenResult result = openDesignFile(*this, path, [&progress](int step) {
+        progress.setValue(step);
+        QCoreApplication::processEvents();
+    });
+    progress.close();
+    if (result.status != DesignOpenStatus::Opened) {
+        if (result.status != DesignOpenStatus::BuildFailed)
+            tell(this, UserMessage::Error, tr("Error"), designOpenMessage(result.status));
+        return false;
+    }
+    designPath = path;
+    markDesignSaved();
+    AddRecentDesign(path);
+    refreshRecentMenu();
+    if (result.newerFormat)
+        tell(this, UserMessage::Warning, tr("Warning"),
+             tr("This design was saved by a newer version of MQ48 Pin Forge. What this version "
+                "knows of it has been opened."));
+    if (!result.problems.isEmpty()) {
+        QStringList shown = result.problems.mid(0, 30);
+        if (result.problems.size() > shown.size())
+            shown << tr("... and %1 more").arg(result.problems.size() - shown.size());
+        tell(this, UserMessage::Warning, tr("Warning"),
+             tr("These settings could not be applied:") + QStringLiteral("\n") +
+                 shown.join(QLatin1Char('\n')));
+    }
+    return true;
 }
 
 bool FormConfiguration::askSaveBeforeLeaving(const QString &question)
@@ -638,7 +964,7 @@ bool FormConfiguration::askSaveBeforeLeaving(const QString &question)
     QString yes = tr("Yes1");
     if (yes == QLatin1String("Yes1"))
         yes = tr("Yes");
-    const int answer = askUser(this, QMessageBox::Question, tr("Question"), question,
+    const int answer = askUser(this, UserMessage::Question, tr("Question"), question,
                                {yes, tr("No"), tr("Cancel")});
     if (answer == 0)
         return saveDesign();
@@ -647,7 +973,7 @@ bool FormConfiguration::askSaveBeforeLeaving(const QString &question)
 
 void FormConfiguration::NewProject_Action_Triggered()
 {
-    if (designOpen &&
+    if (isDesignModified() &&
         !askSaveBeforeLeaving(tr("The current design will be closed before creating a new "
                                  "design. Would you like to save the design?")))
         return;
@@ -659,6 +985,15 @@ void FormConfiguration::NewProject_Action_Triggered()
 
 void FormConfiguration::OpenProject_Action_Triggered()
 {
+    if (isDesignModified() &&
+        !askSaveBeforeLeaving(
+            tr("The current design will be closed. Would you like to save the design?")))
+        return;
+    const QString path =
+        QFileDialog::getOpenFileName(this, tr("Open"), QString(), tr("Design file (*.MQPF)"));
+    if (path.isEmpty())
+        return;
+    openDesign(path);
 }
 
 void FormConfiguration::SaveProject_Action_Triggered()
@@ -668,23 +1003,57 @@ void FormConfiguration::SaveProject_Action_Triggered()
 
 void FormConfiguration::SaveAsProject_Action_Triggered()
 {
-    saveDesign();
+    saveDesignAs();
 }
 
 void FormConfiguration::PackageManager_Action_Triggered()
 {
+    openPackageManager(this);
+}
+
+void FormConfiguration::openPackageManager(QWidget *parent)
+{
+    PackageManager manager(parent);
+    if (m_projectSetting)
+        connect(&manager, &PackageManager::emitRepoPathChanged, m_projectSetting,
+                &ProjectSetting::updateRepoPath);
+    runModalDialog(&manager);
+    // Packages installed or removed in the same folder change the versions on offer too.
+    if (m_projectSetting)
+        m_projectSetting->updateRepoPath(m_projectSetting->repositoryPath());
 }
 
 void FormConfiguration::GenerateReport_Action_Triggered()
 {
+    runGenerateReportAction(this, projectInfo());
 }
 
 void FormConfiguration::GeneralCode_Action_Triggered()
 {
+    if (!designOpen)
+        return;
+    // After a generation the design goes into its file without a question: a design that has
+    // none yet takes the one beside its project.
+    m_codeGeneration->run([this] {
+        if (designPath.isEmpty() && m_projectSetting)
+            designPath = m_projectSetting->designFilePath();
+        if (designPath.isEmpty())
+            return false;
+        QString error;
+        if (!writeDesign(designPath, &error)) {
+            tell(this, UserMessage::Error, tr("Error"), tr("Save file error!"));
+            return false;
+        }
+        AddRecentDesign(designPath);
+        refreshRecentMenu();
+        markDesignSaved();
+        return true;
+    });
 }
 
 void FormConfiguration::NewVersionDownload_Triggered()
 {
+    runNewVersionDownload(this, QStringLiteral(MQ48_VERSION_SHORT));
 }
 
 void FormConfiguration::OpenDesign_List_Clicked()
@@ -693,17 +1062,18 @@ void FormConfiguration::OpenDesign_List_Clicked()
     const QString path = entry ? entry->data().toString() : QString();
     if (path.isEmpty())
         return;
-    if (designOpen &&
+    if (isDesignModified() &&
         !askSaveBeforeLeaving(
             tr("The current design will be closed. Would you like to save the design?")))
         return;
-    if (askUser(this, QMessageBox::Information, tr("Information"),
+    if (askUser(this, UserMessage::Information, tr("Information"),
                 tr("Are you sure to open this design file?"), {tr("Yes"), tr("Cancel")}) != 0)
         return;
     if (!QFile::exists(path)) {
-        tell(this, QMessageBox::Critical, tr("Error"), tr("File is not exists!"));
+        tell(this, UserMessage::Error, tr("Error"), tr("File is not exists!"));
         return;
     }
+    openDesign(path);
 }
 
 // ----------------------------------------------------------------------------------------
@@ -713,7 +1083,7 @@ void FormConfiguration::OpenManual_Action_Triggered()
 {
     const QString path = WorkFormRules::manualPath(appFolder(), g_language);
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
-        tell(this, QMessageBox::Critical, tr("Error"), tr("Can't open manual!"));
+        tell(this, UserMessage::Error, tr("Error"), tr("Can't open manual!"));
 }
 
 void FormConfiguration::Version_Action_Triggered()
@@ -736,7 +1106,7 @@ void FormConfiguration::English_Action_Triggered()
         updateLanguageActions();
         return;
     }
-    if (askUser(this, QMessageBox::Question, tr("Question"),
+    if (askUser(this, UserMessage::Question, tr("Question"),
                 tr("Are you sure to switch language?"), {tr("Yes"), tr("Cancel")}) != 0) {
         updateLanguageActions();
         return;
@@ -750,7 +1120,7 @@ void FormConfiguration::Chinese_Action_Triggered()
         updateLanguageActions();
         return;
     }
-    if (askUser(this, QMessageBox::Question, tr("Question"),
+    if (askUser(this, UserMessage::Question, tr("Question"),
                 tr("Are you sure to switch language?"), {tr("Yes"), tr("Cancel")}) != 0) {
         updateLanguageActions();
         return;
@@ -771,9 +1141,11 @@ void FormConfiguration::switchLanguage(int language)
         QCoreApplication::installTranslator(translator);
     g_language = language;
 
-    // The form's own texts, the tree, the clock page, the drawing, then the mode panels; the
-    // project manager, the code view and the system panels re-label here once they exist.
+    // The form's own texts, the project manager, the tree, the clock page, the drawing, the
+    // code view, then the mode panels and the GPIO, NVIC and DMA panels.
     retranslateForm();
+    if (m_projectSetting)
+        m_projectSetting->retranslateUi();
     if (peripheralsConfig)
         peripheralsConfig->retranslateUi();
     pllPage->retranslate();
@@ -782,8 +1154,15 @@ void FormConfiguration::switchLanguage(int language)
         chipView->searchBox()->setCurrentIndex(-1);
         chipView->searchBox()->clearEditText();
     }
+    codeView->retranslateUi();
     refreshRecentMenu();
     for (IP_ModeAndConfiguration *panel : qAsConst(ipPanels))
+        panel->retranslateUi();
+    if (m_gpioPanel)
+        m_gpioPanel->retranslateUi();
+    if (m_nvicPanel)
+        m_nvicPanel->retranslateUi();
+    for (DMA_Configuration *panel : qAsConst(m_dmaPanels))
         panel->retranslateUi();
     updateLanguageActions();
 
@@ -797,7 +1176,7 @@ void FormConfiguration::AllConfigReset()
 {
     if (!designOpen)
         return;
-    if (askUser(this, QMessageBox::Warning, tr("Warning"),
+    if (askUser(this, UserMessage::Warning, tr("Warning"),
                 tr("The current all configurations will be reset. Please confirm whether to "
                    "continue?"),
                 {tr("Yes"), tr("Cancel")}) != 0)
@@ -812,10 +1191,25 @@ void FormConfiguration::AllConfigReset()
     chipView->AllConfigReset();
     progress.setValue(1);
     QCoreApplication::processEvents();
-    // The DMA panels reset here once they exist; each mode panel runs its first update again.
+    for (DmaRequestModel *model : qAsConst(m_dmaModels))
+        model->reset();
+    // Every mode goes back to "Disable" as if the user set it, which also withdraws the
+    // semaphores between panels; then each panel runs its first update again.
+    for (IP_ModeAndConfiguration *panel : qAsConst(ipPanels))
+        panel->resetToDefaults();
     for (IP_ModeAndConfiguration *panel : qAsConst(ipPanels))
         panel->UpdateAllConfigedSignals(m_design.devicePinInfo, false, panel->instanceName());
     m_design.rebuildGpioRows();
+    if (m_gpioModel) {
+        m_gpioModel->update(m_design.devicePinInfo);
+        m_gpioModel->resetParameters();
+        m_gpioModel->setShowType(0);
+    }
+    if (m_gpioPanel)
+        m_gpioPanel->ReciveAllConfigedSignals(m_design.devicePinInfo, false, QString());
+    if (m_nvicModel)
+        m_nvicModel->reset();
+    refreshSystemModels();
     progress.setValue(2);
     QCoreApplication::processEvents();
     // Setting the model again gives the clock page a fresh tree at its defaults.
@@ -824,7 +1218,7 @@ void FormConfiguration::AllConfigReset()
     showPinPage();
     progress.close();
 
-    tell(this, QMessageBox::Information, tr("Information"), tr("Reset succeed!"));
+    tell(this, UserMessage::Information, tr("Information"), tr("Reset succeed!"));
 }
 
 // ----------------------------------------------------------------------------------------
@@ -852,6 +1246,9 @@ void FormConfiguration::ReceiveIPStatusFlag(QString ipName, IPSTATUS statusFlag,
             m_modePanelStatus.insert(ipName, statusFlag);
         setButtonWarning(m_pinButton, WorkFormRules::pinPageWarns(statusFlag, m_modePanelStatus));
     }
+    // A mode change releases the DMA requests and interrupts of a peripheral switched off.
+    if (modePanel(ipName))
+        refreshSystemModels();
     if (UpdateClockConfigFlag && WorkFormRules::changeUpdatesClock(ipName))
         pllPage->setPeripheralClockGate(ipName, (statusFlag & IPSTATUS_ACTIVE) != 0);
     if (peripheralsConfig)
@@ -861,17 +1258,22 @@ void FormConfiguration::ReceiveIPStatusFlag(QString ipName, IPSTATUS statusFlag,
 void FormConfiguration::ReceivePerpheralsGPIOSettingChangeSignals(QString instanceName,
                                                                   QString signalName)
 {
-    Q_UNUSED(instanceName)
-    Q_UNUSED(signalName)
-    // The GPIO panel, then the mode panel of the instance, are told here once they exist.
+    if (m_gpioPanel)
+        m_gpioPanel->ReciveGPIOSettingChangeSignals(instanceName, signalName);
+    ReceiveSingleGPIOSettingChangeSignals(instanceName);
 }
 
 void FormConfiguration::ReceivePerpheralsDMARequestChangeSignals()
 {
-    // Each DMA panel refreshes here once it exists. The mode panels read their conditions
-    // directly: their own request slot would send the change back here.
+    // The mode panels read their conditions directly: their own request slot would send the
+    // change back here.
+    for (DMA_Configuration *panel : qAsConst(m_dmaPanels)) {
+        for (DMASettingWidget *table : panel->settingWidgets())
+            table->refreshDAMSettingWidgetTable();
+    }
     for (IP_ModeAndConfiguration *panel : qAsConst(ipPanels))
         panel->UpdateDMACondition();
+    refreshNvicAvailability();
 }
 
 void FormConfiguration::ReceiveSemaphore_From_OtherIP(QString ipInstanceName,
@@ -895,16 +1297,18 @@ void FormConfiguration::ReceiveSemaphore_From_OtherIP(QString ipInstanceName,
 void FormConfiguration::ReceiveParamList_From_OtherIP(QList<RefParameter> RefParameterList,
                                                       QString IPName)
 {
-    Q_UNUSED(RefParameterList)
-    Q_UNUSED(IPName)
-    // A mode panel answers a list by sending one out again, so handing lists to the panels
-    // would bounce them back here; the lists stop at the form.
+    // Each other panel applies its rule to the list without sending anything on, so a list
+    // never comes back.
+    for (IP_ModeAndConfiguration *panel : qAsConst(ipPanels)) {
+        if (panel->instanceName() != IPName)
+            panel->ReceiveParamListFromOtherIP(RefParameterList, IPName);
+    }
 }
 
 void FormConfiguration::ReceiveRefreshNVIC(QString sendIpInstanceName)
 {
     Q_UNUSED(sendIpInstanceName)
-    // The NVIC panel refreshes the instance's rows here once it exists.
+    refreshSystemModels();
 }
 
 void FormConfiguration::ReceiveLextFlag(bool EnableFlag, bool bypassFlag)
@@ -934,21 +1338,29 @@ void FormConfiguration::ReceiveClockOut2Pin(int pinNum)
 
 void FormConfiguration::ReceiveSingleGPIOSettingChangeSignals(QString instanceName)
 {
-    Q_UNUSED(instanceName)
+    // The tables share one model; the instance's own table catches up if it is on show.
+    IP_ModeAndConfiguration *panel = modePanel(instanceName);
+    if (panel && panel->gpioSettingWidget() && panel->gpioSettingWidget()->isVisible())
+        panel->gpioSettingWidget()->ensureCurrent();
 }
 
 void FormConfiguration::ReceiveSingleDMARequestInfoChangeSignals()
 {
+    ReceivePerpheralsDMARequestChangeSignals();
 }
 
 void FormConfiguration::ReciveAllConfigedSignals(DevicePinInfo *devicePinInfo,
                                                  bool updateControlFlag, QString sendIPName)
 {
-    for (IP_ModeAndConfiguration *panel : qAsConst(ipPanels)) {
-        if (panel->instanceName() != sendIPName)
-            panel->ReciveAllConfigedSignals(devicePinInfo, updateControlFlag, sendIPName);
-    }
+    // The sending panel is told too: it refreshes at once and so sees where its signals
+    // went (the CRM panel finds its clock output pin this way).
+    for (IP_ModeAndConfiguration *panel : qAsConst(ipPanels))
+        panel->ReciveAllConfigedSignals(devicePinInfo, updateControlFlag, sendIPName);
     m_design.rebuildGpioRows();
+    if (m_gpioPanel)
+        m_gpioPanel->ReciveAllConfigedSignals(devicePinInfo, updateControlFlag, sendIPName);
+    else if (m_gpioModel)
+        m_gpioModel->update(devicePinInfo);
 }
 
 void FormConfiguration::GetSelectIPName(QString ipName)
@@ -970,7 +1382,7 @@ void FormConfiguration::ReciveClockHaveErrorSignal(bool errorFlag)
 
 void FormConfiguration::closeEvent(QCloseEvent *event)
 {
-    if (designOpen &&
+    if (isDesignModified() &&
         !askSaveBeforeLeaving(
             tr("The current design will be closed. Would you like to save the design?"))) {
         event->ignore();

@@ -1,27 +1,40 @@
 #pragma once
 
+#include "app/designdocument.h"
 #include "app/designloader.h"
 #include "database/records.h"
 
 #include <QList>
 #include <QMap>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
 
 class ChipView;
+class DMA_Configuration;
+class DmaRequestModel;
+class FormCodeView;
+class GenerateCodeAction;
+class GPIO_Configuration;
+class GpioSettingsModel;
 class IP_ModeAndConfiguration;
+class NVIC_Configuration;
+class NvicModel;
 class MQ48PLLConfig;
 class PeripheralsConfig;
+class ProjectSetting;
 class QAction;
 class QCloseEvent;
 class QHBoxLayout;
+class QLayout;
 class QLabel;
 class QMenu;
 class QMenuBar;
 class QPushButton;
 class QSplitter;
 class QToolBar;
+class QTimer;
 class QTranslator;
 class QVBoxLayout;
 
@@ -53,11 +66,50 @@ public:
     const QList<IP_ModeAndConfiguration *> &modePanels() const { return ipPanels; }
     // The mode panel of an instance, or nullptr.
     IP_ModeAndConfiguration *modePanel(const QString &instanceName) const;
+    // The chip-wide panels and the models behind them; the peripherals' own GPIO, NVIC and
+    // DMA tabs show the same models. Null (empty) while no design is open or when the device
+    // lists no such block. The design file and the code generator read and set the state of
+    // the design through the models.
+    GPIO_Configuration *gpioPanel() const { return m_gpioPanel; }
+    NVIC_Configuration *nvicPanel() const { return m_nvicPanel; }
+    const QList<DMA_Configuration *> &dmaPanels() const { return m_dmaPanels; }
+    GpioSettingsModel *gpioModel() const { return m_gpioModel; }
+    NvicModel *nvicModel() const { return m_nvicModel; }
+    const QList<DmaRequestModel *> &dmaModels() const { return m_dmaModels; }
+    // The instances whose mode is on now.
+    QSet<QString> configuredInstances() const;
+    // Brings the DMA requests and the interrupts' availability in step with the modes of the
+    // peripherals: requests of peripherals switched off are released. The work form runs it
+    // after every mode change; a design reader runs it after replaying the modes.
+    void refreshSystemModels();
+
     // The panel the tree has put on show, or nullptr.
     QWidget *shownPanel() const;
     bool pinPageWarning() const;
+
+    // Saving and opening designs. saveDesign() writes to the design's file, asking for one
+    // when the design has none yet; false when nothing was saved.
+    bool saveDesign();
+    bool saveDesignAs();
+    // Writes the design to a file without asking anything; false with `error` set.
+    bool writeDesign(const QString &path, QString *error);
+    // Lets the panels' queued refreshes run now, so that their values are current.
+    void flushPanelUpdates();
+    // Opens a design file in this form with its messages; false when nothing was opened.
+    bool openDesign(const QString &path);
+    // Has anything changed since the design was built, opened or saved?
+    bool isDesignModified() const;
+    // The project manager's answers, as the design file holds them; the defaults while no
+    // design is open.
+    ProjectInfo projectInfo() const;
+    void setProjectInfo(const ProjectInfo &info);
     // The last status reported by each mode panel, by instance name.
     QMap<QString, IPSTATUS> panelStatus() const { return m_modePanelStatus; }
+    // The project manager of the open design (its answers are the design's project settings);
+    // nullptr while no design is open.
+    ProjectSetting *projectSetting() const { return m_projectSetting; }
+    // The "Code View" page.
+    FormCodeView *codeViewPage() const { return codeView; }
 
 signals:
     // Emitted when the form closes and the start page should come back.
@@ -136,15 +188,28 @@ private:
     void tearDownDesign();
     void buildPanels();
     IP_ModeAndConfiguration *createModePanel(const PeripheralListItem &row);
+    void createSystemModels();
+    void createSystemPanels(QLayout *panelLayout);
+    void refreshNvicAvailability();
+    QSet<int> exintInterruptLines() const;
     void showPinPage();
     // Asks whether to save before the design goes; false when the user cancels or saving
     // didn't happen.
     bool askSaveBeforeLeaving(const QString &question);
-    bool saveDesign();
+    // The design file's text of the design as it stands.
+    QByteArray currentDesignXml() const;
+    // Takes the design as it stands as the saved state, and shows it in the title.
+    void markDesignSaved();
+    void updateTitle();
+    // Runs the package manager over `parent`; the project manager follows its repository.
+    void openPackageManager(QWidget *parent);
 
     // State of the open design.
     DesignData m_design;
     QString designPath;
+    // The design file's text when the design was last built, opened or saved.
+    QByteArray m_savedXml;
+    QTimer *m_titleTimer = nullptr;
     bool designOpen = false;
     // True while a design is being built, so that a second build can't start meanwhile.
     bool m_building = false;
@@ -153,6 +218,12 @@ private:
     ChipView *chipView = nullptr;
     PeripheralsConfig *peripheralsConfig = nullptr;
     QList<IP_ModeAndConfiguration *> ipPanels;
+    GPIO_Configuration *m_gpioPanel = nullptr;
+    NVIC_Configuration *m_nvicPanel = nullptr;
+    QList<DMA_Configuration *> m_dmaPanels;
+    GpioSettingsModel *m_gpioModel = nullptr;
+    NvicModel *m_nvicModel = nullptr;
+    QList<DmaRequestModel *> m_dmaModels;
     QWidget *m_panelArea = nullptr;
     // Every panel of the design by the name the tree selects it with.
     QMap<QString, QWidget *> m_panelsByName;
@@ -160,7 +231,9 @@ private:
 
     // Widgets that live as long as the form.
     MQ48PLLConfig *pllPage = nullptr;
-    QWidget *m_codeViewPage = nullptr;
+    FormCodeView *codeView = nullptr;
+    GenerateCodeAction *m_codeGeneration = nullptr;
+    ProjectSetting *m_projectSetting = nullptr;
     QSplitter *m_splitter = nullptr;
     QVBoxLayout *m_mainLayout = nullptr;
     QMenuBar *m_menuBar = nullptr;

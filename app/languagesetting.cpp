@@ -1,9 +1,8 @@
 #include "app/languagesetting.h"
 
-#include "app/configstore.h"
+#include "database/configstore.h"
 #include "database/paths.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 namespace {
@@ -45,7 +44,5 @@ StartLanguage ChooseStartLanguage(const QString &configPath, const QLocale &loca
 
 bool StoreLanguageSetting(const QString &configPath, int language)
 {
-    if (!QFile::exists(configPath) && !CreateConfigFile(configPath))
-        return false;
-    return SetConfigValue(configPath, kLanguageKey, LanguageSettingValue(language));
+    return StoreConfigValue(configPath, kLanguageKey, LanguageSettingValue(language));
 }

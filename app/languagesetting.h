@@ -26,5 +26,6 @@ QString LanguageSettingValue(int language);
 // broken file counts as no setting. Never writes the file.
 StartLanguage ChooseStartLanguage(const QString &configPath, const QLocale &locale);
 
-// Writes the Language key for `language`, creating the file first when it doesn't exist.
+// Writes the Language key for `language` through StoreConfigValue(): the file is created when
+// it doesn't exist, and set aside and started anew when it is broken.
 bool StoreLanguageSetting(const QString &configPath, int language);

@@ -1,16 +1,41 @@
+#include "app/commandline.h"
 #include "app/languagesetting.h"
 #include "app/mainwindow.h"
+#include "app/uifont.h"
 #include "app/version.h"
+#include "database/language.h"
 
 #include <QApplication>
 #include <QIcon>
 #include <QLocale>
+#include <QTextStream>
 #include <QTranslator>
+
+#include <cstdio>
+
+namespace {
+
+// Whether the arguments name a command; the window needs none.
+QStringList commandArguments(int argc, char *argv[])
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    return arguments;
+}
+
+} // namespace
 
 int main(int argc, char *argv[])
 {
+    const QStringList arguments = commandArguments(argc, argv);
+    const bool headless = isCommandLine(arguments);
+    // Commands run without a display.
+    if (headless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     QApplication app(argc, argv);
+    InstallUiFont();
     QTranslator translator;
 
     const StartLanguage start = ChooseStartLanguage(ConfigFilePath(), QLocale());
@@ -18,6 +43,16 @@ int main(int argc, char *argv[])
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/VelmoraIcon")));
     if (loaded)
         QCoreApplication::installTranslator(&translator);
+
+    if (headless) {
+        g_language = start.language == 1 ? 1 : 0;
+        QTextStream out(stdout);
+        QTextStream err(stderr);
+        const int code = runCommandLine(parseCommandLine(arguments), out, err);
+        out.flush();
+        err.flush();
+        return code;
+    }
 
     MainWindow window;
     window.setWindowTitle(QStringLiteral(MQ48_VERSION_TITLE));

@@ -6,12 +6,17 @@
 #include "app/languagesetting.h"
 #include "app/recentdesigns.h"
 #include "database/catalogue.h"
+#include "database/dbtextexchange.h"
 #include "database/language.h"
+#include "database/safexml.h"
+#include "widgets/messagebox.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QCursor>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -21,7 +26,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMessageBox>
 #include <QPixmap>
 #include <QPushButton>
 #include <QTextBrowser>
@@ -51,7 +55,26 @@ const char kRecentStyle[] = "QCommandLinkButton {color: rgb(85, 126, 191); font:
 // Header buttons remember whether their group is open.
 const char kOpenProperty[] = "sectionOpen";
 
+// Tells the user, once, that a settings or list file could not be read and was kept aside.
+void tellSetAside(const QString &path, const QString &asidePath)
+{
+    tellUser(QApplication::activeWindow(), UserMessage::Warning, MainWindow::tr("Warning"),
+             MainWindow::tr("The file %1 could not be read. It has been kept as %2, and a new "
+                            "one is started.")
+                 .arg(QDir::toNativeSeparators(path), QDir::toNativeSeparators(asidePath)));
+}
+
 } // namespace
+
+MainWindow::SetAsideNotice::SetAsideNotice()
+{
+    setSetAsideHandler(&tellSetAside);
+}
+
+MainWindow::SetAsideNotice::~SetAsideNotice()
+{
+    setSetAsideHandler(nullptr);
+}
 
 MainWindow::MainWindow(QWidget *parent) : QWidget(parent)
 {
@@ -102,6 +125,10 @@ MainWindow::MainWindow(QWidget *parent) : QWidget(parent)
             &MainWindow::MCUSerial_ComboBox_IndexChanged);
     connect(m_deviceBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &MainWindow::Device_ComboBox_IndexChanged);
+    connect(m_toTxtButton, &QPushButton::clicked, this,
+            &MainWindow::Get_ENCH_ToTXT_PushButton_Clicked);
+    connect(m_fromTxtButton, &QPushButton::clicked, this,
+            &MainWindow::Set_ENCH_FromTXT_PushButton_Clicked);
     connect(&m_form, &FormConfiguration::formClosed, this, &MainWindow::onFormClosed);
 }
 
@@ -125,6 +152,7 @@ void MainWindow::buildTitleRow(QVBoxLayout *page)
     row->addWidget(m_titleLabel);
     row->addStretch();
     row->addWidget(m_languageLabel);
+    row->addSpacing(8);
     row->addWidget(m_languageBox);
     page->addLayout(row);
 }
@@ -408,13 +436,9 @@ void MainWindow::OpenDesign_List_Clicked()
         showError(tr("File is not exists!"));
         return;
     }
-    QMessageBox question(QMessageBox::Information, tr("Information"),
-                         tr("Are you sure to open this design file?"), QMessageBox::NoButton,
-                         this);
-    QPushButton *yes = question.addButton(tr("Yes"), QMessageBox::YesRole);
-    question.addButton(tr("Cancel"), QMessageBox::RejectRole);
-    question.exec();
-    if (question.clickedButton() != yes)
+    if (showUserMessage(this, {UserMessage::Information, tr("Information"),
+                               tr("Are you sure to open this design file?"),
+                               {tr("Yes"), tr("Cancel")}}) != 0)
         return;
     openDesignFile(path);
 }
@@ -422,23 +446,9 @@ void MainWindow::OpenDesign_List_Clicked()
 void MainWindow::openDesignFile(const QString &path)
 {
     m_form.setTranslator(translator);
-    const DesignHeader header = ReadDesignHeader(path);
-    switch (CheckDesignHeader(header)) {
-    case DesignHeaderCheck::NoDeviceInfo:
-        showError(tr("Open file error, can not get MCU information!"));
+    // The form checks the device, builds it, replays the file and says what went wrong.
+    if (!m_form.openDesign(path))
         return;
-    case DesignHeaderCheck::DeviceNotSupported:
-        showError(tr("Open file error, MCU in file not supported."));
-        return;
-    case DesignHeaderCheck::PackageNotSupported:
-        showError(tr("Open file error, MCU package in file not supported."));
-        return;
-    case DesignHeaderCheck::Ok:
-        break;
-    }
-    if (!m_form.buildDesign(header.series, header.device, header.package))
-        return;
-    AddRecentDesign(path);
     refreshRecentDesigns();
     m_form.show();
     hide();
@@ -446,9 +456,7 @@ void MainWindow::openDesignFile(const QString &path)
 
 void MainWindow::showError(const QString &text)
 {
-    QMessageBox box(QMessageBox::Critical, tr("Error"), text, QMessageBox::NoButton, this);
-    box.addButton(tr("Ok"), QMessageBox::AcceptRole);
-    box.exec();
+    showUserMessage(this, {UserMessage::Error, tr("Error"), text, {tr("Ok")}});
 }
 
 void MainWindow::refreshRecentDesigns()
@@ -496,6 +504,20 @@ void MainWindow::DeleteSelectedDesignItem()
     button->hide();
     button->deleteLater();
     DeleteRecentDesign(path);
+}
+
+void MainWindow::Get_ENCH_ToTXT_PushButton_Clicked()
+{
+    const QString folder = QFileDialog::getExistingDirectory(this, tr("Select directory"));
+    if (!folder.isEmpty())
+        DbTextExchange::exportFolder(folder);
+}
+
+void MainWindow::Set_ENCH_FromTXT_PushButton_Clicked()
+{
+    const QString folder = QFileDialog::getExistingDirectory(this, tr("Select directory"));
+    if (!folder.isEmpty())
+        DbTextExchange::importFolder(folder);
 }
 
 void MainWindow::Language_ComboBox_IndexChanged(int index)

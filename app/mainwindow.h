@@ -46,6 +46,9 @@ public slots:
     void OpenDesign_List_Clicked();
     void LinkRightButtonClicked_Slot();
     void DeleteSelectedDesignItem();
+    // Maintenance: the bilingual texts of a folder of peripheral files to text files and back.
+    void Get_ENCH_ToTXT_PushButton_Clicked();
+    void Set_ENCH_FromTXT_PushButton_Clicked();
 
 private:
     void buildTitleRow(QVBoxLayout *page);
@@ -64,7 +67,14 @@ private:
     // A modal box with one "Ok" button.
     void showError(const QString &text);
 
-    // Constructed first: the page's widgets may refer to it.
+    // Tells the user about a settings or list file that could not be read and was kept
+    // aside; it comes before the form, which reads the recent designs too.
+    struct SetAsideNotice
+    {
+        SetAsideNotice();
+        ~SetAsideNotice();
+    } m_setAsideNotice;
+    // Constructed first of the page: the page's widgets may refer to it.
     FormConfiguration m_form;
     QTranslator *translator = nullptr;
     QList<MCUSerialInfo> serials;

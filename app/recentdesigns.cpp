@@ -4,9 +4,9 @@
 #include "database/safexml.h"
 
 #include <QBuffer>
-#include <QDomDocument>
 #include <QFile>
 #include <QSaveFile>
+#include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
 namespace {
@@ -28,13 +28,36 @@ QStringList GetRecentDesigns()
 QStringList GetRecentDesigns(const QString &listFile)
 {
     QStringList designs;
-    QDomDocument doc;
-    if (!QFile::exists(listFile) || !loadXmlDocument(listFile, &doc))
+    QFile file(listFile);
+    if (!file.exists() || !file.open(QIODevice::ReadOnly))
         return designs;
-    const QDomElement list = doc.documentElement().firstChildElement(kList);
-    for (QDomElement e = list.firstChildElement(kEntry); !e.isNull();
-         e = e.nextSiblingElement(kEntry))
-        designs.append(e.text());
+    // Only the first entries are read: a huge list costs no more than a short one.
+    QXmlStreamReader reader(&file);
+    bool unreadable = false;
+    if (!reader.readNextStartElement()) {
+        unreadable = true;
+    } else {
+        while (designs.size() < kMaxRecentDesigns && reader.readNextStartElement()) {
+            if (reader.name() != kList) {
+                reader.skipCurrentElement();
+                continue;
+            }
+            while (designs.size() < kMaxRecentDesigns && reader.readNextStartElement()) {
+                if (reader.name() == kEntry)
+                    designs.append(reader.readElementText(QXmlStreamReader::IncludeChildElements));
+                else
+                    reader.skipCurrentElement();
+            }
+            break;
+        }
+        unreadable = reader.hasError();
+    }
+    file.close();
+    if (unreadable) {
+        // Kept aside for the user; the list starts anew.
+        setAsideUnreadableFile(listFile);
+        designs.clear();
+    }
     return designs;
 }
 

@@ -12,8 +12,9 @@ constexpr int kMaxRecentDesigns = 5;
 // app folder + "/resentlyProject.xml".
 QString RecentDesignsPath();
 
-// Every FilePath of the first ResentlyProject of the root, in order; empty when the file is
-// missing or unreadable.
+// The FilePath entries of the first ResentlyProject of the root, in order, at most
+// kMaxRecentDesigns of them: the rest of the file is not read. A file in which a fault is met
+// before that is set aside (setAsideUnreadableFile()) and gives an empty list.
 QStringList GetRecentDesigns();
 QStringList GetRecentDesigns(const QString &listFile);
 

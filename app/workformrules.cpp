@@ -1,5 +1,7 @@
 #include "app/workformrules.h"
 
+#include "database/familyfacts.h"
+
 #include <QStringList>
 
 namespace WorkFormRules {
@@ -35,90 +37,9 @@ bool isUnfinished(IPSTATUS status)
     return (status & IPSTATUS_UNFINISHED) != 0;
 }
 
-namespace {
-
-using Routes = QMap<QString, QStringList>;
-
-// Adds the I2S/SPI pairs 1..count, each way.
-void addI2SPairs(Routes *routes, int count)
-{
-    for (int i = 1; i <= count; ++i) {
-        const QString i2s = QStringLiteral("I2S%1").arg(i);
-        const QString spi = QStringLiteral("SPI%1").arg(i);
-        (*routes)[i2s] << spi;
-        (*routes)[spi] << i2s;
-    }
-}
-
-Routes familyRoutes(const QString &series)
-{
-    Routes r;
-    const auto is = [&series](std::initializer_list<const char *> names) {
-        for (const char *name : names) {
-            if (series == QLatin1String(name))
-                return true;
-        }
-        return false;
-    };
-    const QStringList i2s23 = {QStringLiteral("I2S2"), QStringLiteral("I2S3")};
-    if (is({"MQ48T510", "MQ48T520"})) {
-        r[QStringLiteral("TMR10")] << QStringLiteral("IRTMR");
-        r[QStringLiteral("TMR11")] << QStringLiteral("IRTMR");
-        addI2SPairs(&r, 4);
-        r[QStringLiteral("SCFG")] << i2s23;
-        r[QStringLiteral("ADC1")] << QStringLiteral("ADC-Common");
-        r[QStringLiteral("ADC-Common")] << QStringLiteral("ADC1") << QStringLiteral("ADC2")
-                                        << QStringLiteral("ADC3");
-        r[QStringLiteral("EXINT")] << QStringLiteral("ADC1") << QStringLiteral("ADC2")
-                                   << QStringLiteral("ADC3") << QStringLiteral("DAC");
-        r[QStringLiteral("USB_OTGFS1")] << QStringLiteral("ACC");
-        r[QStringLiteral("USB_OTGFS2")] << QStringLiteral("ACC");
-    } else if (is({"MQ48T220", "MQ48T210"})) {
-        r[QStringLiteral("TMR10")] << QStringLiteral("IRTMR");
-        r[QStringLiteral("TMR11")] << QStringLiteral("IRTMR");
-        addI2SPairs(&r, 3);
-        r[QStringLiteral("SCFG")] << i2s23;
-        r[QStringLiteral("EXINT")] << QStringLiteral("ADC1");
-        r[QStringLiteral("USB_OTGFS1")] << QStringLiteral("ACC");
-    } else if (is({"MQ48T320", "MQ48W320"})) {
-        addI2SPairs(&r, 2);
-        r[QStringLiteral("EXINT")] << QStringLiteral("ADC1");
-        r[QStringLiteral("CMP1")] << QStringLiteral("CMP2");
-    } else if (is({"MQ48T310"})) {
-        addI2SPairs(&r, 2);
-        r[QStringLiteral("EXINT")] << QStringLiteral("ADC1") << QStringLiteral("ADC2");
-        r[QStringLiteral("USBFS")] << QStringLiteral("ACC");
-    } else if (is({"MQ48T250", "MQ48T260", "MQ48V250"})) {
-        addI2SPairs(&r, 4);
-        r[QStringLiteral("ADC2")] << QStringLiteral("ADC1");
-        r[QStringLiteral("EXINT")] << QStringLiteral("ADC1") << QStringLiteral("ADC2")
-                                   << QStringLiteral("DAC");
-        r[QStringLiteral("USBFS")] << QStringLiteral("ACC");
-    } else if (is({"MQ48T120"})) {
-        r[QStringLiteral("TMR16")] << QStringLiteral("TMR17");
-        addI2SPairs(&r, 3);
-        r[QStringLiteral("SCFG")] << i2s23;
-        r[QStringLiteral("EXINT")] << QStringLiteral("ADC1");
-        r[QStringLiteral("USB_OTGFS1")] << QStringLiteral("ACC");
-    } else if (is({"MQ48T130", "MQ48V130"})) {
-        r[QStringLiteral("TMR10")] << QStringLiteral("TMR11");
-        addI2SPairs(&r, 3);
-        r[QStringLiteral("SCFG")] << i2s23;
-        r[QStringLiteral("EXINT")] << QStringLiteral("ADC1") << QStringLiteral("DAC");
-        r[QStringLiteral("USB_OTGFS1")] << QStringLiteral("ACC");
-    } else if (is({"MQ48T110"})) {
-        r[QStringLiteral("TMR16")] << QStringLiteral("TMR17");
-        addI2SPairs(&r, 2);
-        r[QStringLiteral("EXINT")] << QStringLiteral("ADC1");
-    }
-    return r;
-}
-
-} // namespace
-
 QStringList semaphoreTargets(const QString &series, const QString &sender)
 {
-    return familyRoutes(series).value(sender);
+    return FamilyFacts::semaphoreTargets(series, sender);
 }
 
 bool pinPageWarns(IPSTATUS reported, const QMap<QString, IPSTATUS> &modePanelStatus)

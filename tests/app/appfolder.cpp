@@ -3,6 +3,7 @@
 #include "database/language.h"
 #include "database/paths.h"
 #include "tests/common/testsupport.h"
+#include "widgets/messagebox.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -38,6 +39,19 @@ TempAppFolder::~TempAppFolder()
 {
     setAppFolderOverride(QString());
     g_language = m_savedLanguage;
+}
+
+ShippedDatabase::ShippedDatabase()
+{
+    setUserMessageHandler([this](QWidget *, const UserMessage &m) {
+        messages << m.text;
+        return 0;
+    });
+}
+
+ShippedDatabase::~ShippedDatabase()
+{
+    setUserMessageHandler({});
 }
 
 void ModalCatcher::arm(const QStringList &buttons)

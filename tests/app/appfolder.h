@@ -1,5 +1,7 @@
 #pragma once
 
+#include "projectflow.h"
+
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -36,4 +38,21 @@ struct ModalCatcher
 private:
     std::unique_ptr<QTimer> m_timer;
     QStringList m_buttons;
+};
+
+// The shipped database in a program folder of its own (nothing is written beside the
+// sources), English, headless: the panels' messages are collected and answered with their
+// first button.
+class ShippedDatabase
+{
+public:
+    ShippedDatabase();
+    ~ShippedDatabase();
+    ShippedDatabase(const ShippedDatabase &) = delete;
+    ShippedDatabase &operator=(const ShippedDatabase &) = delete;
+
+    QStringList messages;
+
+private:
+    ProgramFolder m_program;
 };

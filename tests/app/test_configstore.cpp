@@ -1,5 +1,5 @@
-#include "app/configstore.h"
 #include "app/languagesetting.h"
+#include "database/configstore.h"
 #include "tests/common/testsupport.h"
 
 #include <QDomDocument>

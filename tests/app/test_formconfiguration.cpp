@@ -5,8 +5,9 @@
 #include "common/testsupport.h"
 #include "database/language.h"
 #include "database/paths.h"
-#include "peripherals/peripheralmessage.h"
+#include "peripherals/gpiosettingsmodel.h"
 #include "pinout/chipview.h"
+#include "widgets/messagebox.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -52,11 +53,11 @@ public:
         setAppFolderOverride(m_dir.path());
         g_language = 0;
         // The fixture's peripherals have no mode files; their panels say so through the sink.
-        setPeripheralMessageSink([](const QString &, const QString &) {});
+        setUserMessageHandler([](QWidget *, const UserMessage &) { return 0; });
     }
     ~WorkFolder()
     {
-        setPeripheralMessageSink({});
+        setUserMessageHandler({});
         setAppFolderOverride(QString());
         g_language = m_language;
     }
@@ -67,54 +68,57 @@ private:
     int m_language;
 };
 
-// Handles the modal windows that come up next, one handler per window in turn. A handler
-// gets the window; message boxes are recorded.
+// Answers the message boxes that come up next, one pressed button text per box in turn, and
+// handles other modal windows (file dialogs) one handler per window. Message titles and texts
+// are recorded.
 class ModalHandler
 {
 public:
     using Handler = std::function<void(QWidget *)>;
 
-    void then(Handler handler) { m_handlers << handler; }
-    // Presses the button showing `buttonText` on the next message box.
-    void press(const QString &buttonText)
+    ModalHandler() : m_saved(userMessageHandler())
     {
-        then([this, buttonText](QWidget *window) {
-            auto *box = qobject_cast<QMessageBox *>(window);
-            if (!box) {
-                window->close();
-                return;
-            }
-            titles << box->windowTitle();
-            texts << box->text();
-            for (QAbstractButton *button : box->buttons()) {
-                if (button->text() == buttonText) {
-                    button->click();
-                    return;
-                }
-            }
-            box->reject();
+        setUserMessageHandler([this](QWidget *, const UserMessage &m) {
+            titles << m.title;
+            texts << m.text;
+            if (m_presses.isEmpty())
+                return -1;
+            return int(m.buttons.indexOf(m_presses.takeFirst()));
         });
     }
+    ~ModalHandler() { setUserMessageHandler(m_saved); }
+    ModalHandler(const ModalHandler &) = delete;
+    ModalHandler &operator=(const ModalHandler &) = delete;
+
+    void then(Handler handler) { m_handlers << handler; }
+    // Presses the button showing `buttonText` on the next message box.
+    void press(const QString &buttonText) { m_presses << buttonText; }
     void arm()
     {
         m_timer.setInterval(10);
         QObject::connect(&m_timer, &QTimer::timeout, [this]() {
             QWidget *window = QApplication::activeModalWidget();
-            if (!window || window == m_last || m_handlers.isEmpty())
-                return;
-            if (window->inherits("QProgressDialog"))
+            if (!window || window == m_last || window->inherits("QProgressDialog"))
                 return;
             m_last = window;
+            if (m_handlers.isEmpty()) {
+                // A window nobody expected would otherwise wait forever.
+                ADD_FAILURE() << "unexpected window: " << window->windowTitle().toStdString();
+                window->close();
+                return;
+            }
             m_handlers.takeFirst()(window);
         });
         m_timer.start();
     }
-    bool done() const { return m_handlers.isEmpty(); }
+    bool done() const { return m_handlers.isEmpty() && m_presses.isEmpty(); }
 
     QStringList titles;
     QStringList texts;
 
 private:
+    UserMessageHandler m_saved;
+    QStringList m_presses;
     QList<Handler> m_handlers;
     QTimer m_timer;
     QPointer<QWidget> m_last;
@@ -220,11 +224,11 @@ TEST(FormConfiguration, MenusActionsAndShortcutsStandAsDesigned)
     EXPECT_EQ(actionByText(menuByTitle(form, "Generate code"), "Generate code")->shortcut(),
               QKeySequence("Ctrl+G"));
 
-    // What later subsystems bring stays visible but disabled; what works is enabled.
+    // Every action of the menus works.
     for (const char *text :
-         {"Open Design", "Save Design", "Design Save As", "Package Manager", "Generate Report"})
-        EXPECT_FALSE(actionByText(file, text)->isEnabled()) << text;
-    EXPECT_FALSE(actionByText(help, "New version download")->isEnabled());
+         {"Open Design", "Save Design", "Design Save As", "Generate Report", "Package Manager"})
+        EXPECT_TRUE(actionByText(file, text)->isEnabled()) << text;
+    EXPECT_TRUE(actionByText(help, "New version download")->isEnabled());
     EXPECT_TRUE(actionByText(file, "New Design")->isEnabled());
     EXPECT_TRUE(actionByText(help, "Version")->isEnabled());
 
@@ -274,10 +278,15 @@ TEST(FormConfiguration, BuildingADesignFillsTheFormAndRebuildingReplacesIt)
     ASSERT_NE(form.chipDrawing(), nullptr);
     EXPECT_EQ(form.chipDrawing()->devicePinInfo(), form.design().devicePinInfo);
 
-    // A device missing from the database still opens, as an empty package.
-    ASSERT_TRUE(form.buildDesign("MQ48T110", "MQ48T110ZZ", "LQFP8"));
+    // A device whose file is missing is named in one message, and the open design stays.
+    {
+        ModalHandler messages;
+        EXPECT_FALSE(form.buildDesign("MQ48T110", "MQ48T110ZZ", "LQFP8"));
+        ASSERT_EQ(messages.texts.size(), 1);
+        EXPECT_TRUE(messages.texts.first().contains("MQ48T110ZZ.xml"));
+    }
     EXPECT_TRUE(form.isDesignOpen());
-    EXPECT_TRUE(form.chipDrawing()->pinItems().isEmpty());
+    EXPECT_EQ(form.design().mcuName, QStringLiteral("MQ48T230QY"));
 
     // So does an empty selection, which an empty catalogue passes on.
     ASSERT_TRUE(form.buildDesign("", "", ""));
@@ -423,7 +432,7 @@ TEST(FormConfiguration, LanguageSwitchRelabelsKeepsTheDesignAndWritesTheSetting)
     QCoreApplication::removeTranslator(&translator);
 }
 
-TEST(FormConfiguration, ClosingAsksToSaveAndKeepsTheDesignUnlessTold)
+TEST(FormConfiguration, ClosingAsksToSaveChangesAndKeepsTheDesignUnlessTold)
 {
     WorkFolder folder;
     FormConfiguration form;
@@ -432,6 +441,9 @@ TEST(FormConfiguration, ClosingAsksToSaveAndKeepsTheDesignUnlessTold)
     form.show();
     const QString scratch = folder.file("MQ48DB/CodeView/main.c");
     ASSERT_TRUE(testsupport::writeFile(scratch, "int main(void) { return 0; }\n"));
+    ASSERT_NE(form.gpioModel(), nullptr);
+    form.gpioModel()->setShowType(1);
+    ASSERT_TRUE(form.isDesignModified());
 
     {
         ModalHandler modal;
@@ -446,15 +458,14 @@ TEST(FormConfiguration, ClosingAsksToSaveAndKeepsTheDesignUnlessTold)
     EXPECT_TRUE(form.isVisible());
     EXPECT_EQ(closed.count(), 0);
 
-    // Saving isn't possible yet: the user is told and the design stays.
+    // "Yes" asks where to save; cancelling that keeps the design open.
     {
         ModalHandler modal;
         modal.press("Yes");
-        modal.press("Ok");
+        modal.then([](QWidget *window) { window->close(); });
         modal.arm();
         form.close();
         EXPECT_TRUE(modal.done());
-        EXPECT_EQ(modal.titles.size(), 2);
     }
     EXPECT_TRUE(form.isVisible());
     EXPECT_TRUE(form.isDesignOpen());
@@ -471,6 +482,19 @@ TEST(FormConfiguration, ClosingAsksToSaveAndKeepsTheDesignUnlessTold)
     EXPECT_FALSE(form.isVisible());
     EXPECT_EQ(closed.count(), 1);
     EXPECT_FALSE(QDir(folder.file("MQ48DB/CodeView")).exists());
+}
+
+TEST(FormConfiguration, ClosingAnUnchangedDesignAsksNothing)
+{
+    WorkFolder folder;
+    FormConfiguration form;
+    QSignalSpy closed(&form, &FormConfiguration::formClosed);
+    ASSERT_TRUE(form.buildDesign("MQ48T110", "MQ48T110FX", "LQFP8"));
+    form.show();
+    ModalHandler modal;
+    form.close();
+    EXPECT_TRUE(modal.texts.isEmpty());
+    EXPECT_EQ(closed.count(), 1);
 }
 
 TEST(FormConfiguration, ClosingWithoutADesignAsksNothing)
@@ -520,6 +544,10 @@ TEST(FormConfiguration, NewDesignAsksFirstAndBuildsTheChosenDevice)
     WorkFolder folder;
     FormConfiguration form;
     ASSERT_TRUE(form.buildDesign("MQ48T230", "MQ48T230QY", "QFN12"));
+    // Only a changed design is worth a question.
+    ASSERT_NE(form.gpioModel(), nullptr);
+    form.gpioModel()->setShowType(1);
+    ASSERT_TRUE(form.isDesignModified());
     QAction *newDesign = actionByText(menuByTitle(form, "File"), "New Design");
 
     {
