@@ -34,7 +34,7 @@ namespace {
 // is a usable package.
 QString headlessPackageFolder(const ProjectInfo &info, const QString &series)
 {
-    const QString repository = configuredRepositoryPath();
+    const QString repository = repositoryPathOrDefault();
     QStringList candidates;
     if (!info.packageVersion.isEmpty() && !repository.isEmpty())
         candidates << devicefacts::packageFolder(repository, series, info.packageVersion);
@@ -332,9 +332,9 @@ int generateHeadless(FormConfiguration *form, const ProjectInfo &info, const QSt
     }
     generator->setInputs(inputs);
 
-    const QString folder =
-        outputDir.isEmpty() ? info.projectFolder()
-                            : QDir::cleanPath(QFileInfo(outputDir).absoluteFilePath());
+    const QString folder = outputDir.isEmpty()
+                               ? info.projectFolder()
+                               : QDir::cleanPath(QFileInfo(outputDir).absoluteFilePath());
     if (folder.isEmpty()) {
         err << GenerateCodeAction::tr("The design names no project folder; give one with "
                                       "--output.")

@@ -90,9 +90,10 @@ enum HeadlessGenerateResult {
 };
 
 // Generates the form's design without a window: runs the checks (printing each problem on a
-// line of `err`), writes the IDE project of `info` when it names a toolchain, uses the
-// firmware and a package of the settings' repository is found (else only the code), then the
-// code into <folder>/project. The folder is `outputDir`, or the project folder of `info` when
-// that is empty. Returns a HeadlessGenerateResult.
+// line of `err`), writes the IDE project of `info` when it names a toolchain (with the firmware
+// when it uses it and a package is found in the repository, the settings' one or else the
+// default folder; otherwise only the code), then the code into <folder>/project. The folder is
+// `outputDir`, or the project folder of `info` when that is empty. Returns a
+// HeadlessGenerateResult.
 int generateHeadless(FormConfiguration *form, const ProjectInfo &info, const QString &outputDir,
                      bool keepUserCode, QTextStream &err);

@@ -24,6 +24,14 @@ QStringList commandArguments(int argc, char *argv[])
     return arguments;
 }
 
+// Commands print only their own messages: Qt's notes about the windowless platform would
+// bury them. Serious errors still come through.
+void quietQtMessages(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    if (type == QtCriticalMsg || type == QtFatalMsg)
+        std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -33,6 +41,8 @@ int main(int argc, char *argv[])
     // Commands run without a display.
     if (headless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (headless)
+        qInstallMessageHandler(quietQtMessages);
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     QApplication app(argc, argv);
     InstallUiFont();

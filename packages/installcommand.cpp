@@ -9,11 +9,7 @@
 
 int installPackageCommand(const QString &zip, const QString &repository, QTextStream &err)
 {
-    QString repo = repository;
-    if (repo.isEmpty())
-        repo = configuredRepositoryPath();
-    if (repo.isEmpty())
-        repo = defaultRepositoryPath();
+    const QString repo = repository.isEmpty() ? repositoryPathOrDefault() : repository;
 
     if (!IsValidPackageName(zip)) {
         err << PackageInstaller::tr("The file name \"%1\" is not the name of a firmware "

@@ -34,6 +34,12 @@ QString defaultRepositoryPath()
     return QDir::homePath() + QStringLiteral("/PinForge/Repository/Package");
 }
 
+QString repositoryPathOrDefault()
+{
+    const QString configured = configuredRepositoryPath();
+    return configured.isEmpty() ? defaultRepositoryPath() : configured;
+}
+
 QString defaultDownloadSite(int language)
 {
     return language == 1 ? QStringLiteral("https://www.velmora-mcu.com.cn/")

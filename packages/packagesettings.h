@@ -13,6 +13,8 @@ QString configuredRepositoryPath();
 bool storeRepositoryPath(const QString &path);
 // The folder proposed when no repository is set: home + "/PinForge/Repository/Package".
 QString defaultRepositoryPath();
+// The repository the commands use: the settings' one, else the default folder.
+QString repositoryPathOrDefault();
 
 // The config.xml key of the download site's base address, for mirrors and tests.
 inline const char *downloadSiteKey()

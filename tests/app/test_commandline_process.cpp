@@ -119,6 +119,7 @@ TEST(CommandLineProcess, ChecksResavesGeneratesAndReportsADesign)
     const ProgramRun good = runProgram({"check", designs.good});
     EXPECT_EQ(good.code, ExitOk) << qPrintable(good.err);
     EXPECT_TRUE(good.out.isEmpty()) << qPrintable(good.out);
+    EXPECT_TRUE(good.err.isEmpty()) << qPrintable(good.err); // nothing but its own messages
     const ProgramRun bad = runProgram({"check", designs.bad});
     EXPECT_EQ(bad.code, ExitProblems) << qPrintable(bad.err);
     EXPECT_EQ(bad.out,
