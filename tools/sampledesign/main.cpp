@@ -44,7 +44,7 @@ bool placeByHand(FormConfiguration &form, const QString &pinName, const QString 
     return false;
 }
 
-// The clock page's values with `changes` applied, replayed through the form.
+// The clock page's values with `changes` applied, the whole design replayed through the form.
 void setClock(FormConfiguration &form, const QList<QPair<QString, QString>> &changes)
 {
     DesignDocument doc = collectDesign(form);
@@ -54,11 +54,7 @@ void setClock(FormConfiguration &form, const QList<QPair<QString, QString>> &cha
                 value.second = change.second;
         }
     }
-    DesignDocument clockOnly;
-    clockOnly.series = doc.series;
-    clockOnly.hasClock = true;
-    clockOnly.clock = doc.clock;
-    applyDesign(form, clockOnly);
+    applyDesign(form, doc);
 }
 
 } // namespace
