@@ -1,8 +1,10 @@
 // panelshot <output folder>: builds an MQ48T110C8T design with USART1 (DMA on TX and RX),
 // SPI1, TMR1 and ADC1, then saves the chip-wide GPIO, NVIC and DMA panels and USART1's own
-// GPIO, NVIC and DMA tabs, in English and in Chinese.
+// GPIO, NVIC and DMA tabs, I2C1's and TMR1's parameters with their timing diagrams, and the
+// New Design dialog, in English and in Chinese.
 
 #include "app/formconfiguration.h"
+#include "app/new_design_select.h"
 #include "database/language.h"
 #include "database/paths.h"
 #include "peripherals/dma_configuration.h"
@@ -14,6 +16,7 @@
 #include "peripherals/ip_modeandconfiguration.h"
 #include "peripherals/nvic_configuration.h"
 #include "peripherals/nvicmodel.h"
+#include "peripherals/paramsettingwidget.h"
 #include "peripherals/peripheralsconfig.h"
 #include "widgets/messagebox.h"
 
@@ -113,7 +116,26 @@ bool shoot(const QString &out, const QString &suffix)
                 dma->requestsOfInstance("USART1").value(0, -1));
         ok = save(&form, out + "/usart1_" + names.at(i - 1) + "_" + suffix + ".png") && ok;
     }
+    // The calculated parameters and their timing diagrams: I2C1 at 400 kHz and TMR1 with a
+    // PWM channel.
+    form.modePanel("I2C1")->setModeSelection("I2C", "I2C");
+    form.modePanel("TMR1")->setModeSelection("Channel1", "PWM Generation CH1");
+    for (const QString &instance : {QStringLiteral("I2C1"), QStringLiteral("TMR1")}) {
+        choose(form, instance);
+        IP_ModeAndConfiguration *panel = form.modePanel(instance);
+        if (instance == QLatin1String("I2C1") && panel->paramSettingWidget()) {
+            panel->paramSettingWidget()->setParameterValue("I2C_Mode", "I2C_Fast");
+            panel->paramSettingWidget()->refreshNow();
+        }
+        panel->tabWidget()->setCurrentIndex(0);
+        ok = save(&form, out + "/" + instance.toLower() + "_timing_" + suffix + ".png") && ok;
+    }
     form.hide();
+
+    // The device selection of "New Design".
+    New_Design_Select select;
+    select.show();
+    ok = save(&select, out + "/new_design_" + suffix + ".png") && ok;
     return ok;
 }
 

@@ -1,6 +1,6 @@
 // pinshot <output folder>: saves the drawing of a TSSOP20, a QFN32 and an LQFP48 device of
 // the MQ48T110 series, with a few pins set by hand, a mode request and one label, in English
-// and in Chinese.
+// and in Chinese, and the LQFP144 MQ48T510ZMT turned a quarter clockwise.
 
 #include "database/devicereader.h"
 #include "database/language.h"
@@ -40,10 +40,12 @@ ModeSignal mode(const QString &name)
     return s;
 }
 
-bool shoot(const QString &device, const QString &outFolder, const QString &suffix)
+bool shoot(const QString &device, const QString &outFolder, const QString &suffix,
+           int rotations = 0)
 {
+    const QString series = device.left(8);
     const QString path =
-        QStringLiteral(MQ48_SOURCE_DIR) + "/MQ48DB/device/MQ48T110/" + device + ".xml";
+        QStringLiteral(MQ48_SOURCE_DIR) + "/MQ48DB/device/" + series + "/" + device + ".xml";
     std::unique_ptr<DevicePinInfo> info(NewDevicePinInfo(path));
     if (info->pins.isEmpty()) {
         std::fprintf(stderr, "cannot read %s\n", qPrintable(path));
@@ -70,8 +72,11 @@ bool shoot(const QString &device, const QString &outFolder, const QString &suffi
         }
     }
     view.ReceiveGPIOQuerySignals("", "");
+    for (int i = 0; i < rotations; ++i)
+        view.Rotated_Clockwise();
     QApplication::processEvents();
-    const QString file = outFolder + "/" + device + "_" + suffix + ".png";
+    const QString name = rotations ? device + "_rotated" : device;
+    const QString file = outFolder + "/" + name + "_" + suffix + ".png";
     if (!view.grab().save(file)) {
         std::fprintf(stderr, "cannot write %s\n", qPrintable(file));
         return false;
@@ -92,6 +97,8 @@ int main(int argc, char **argv)
     g_language = 0;
     for (const QString &device : devices)
         ok = shoot(device, out, "en") && ok;
+    // The largest package, turned a quarter clockwise.
+    ok = shoot("MQ48T510ZMT", out, "en", 1) && ok;
 
     QTranslator translator;
     if (!translator.load(":/image/tr_zh.qm"))
