@@ -170,6 +170,8 @@ int screenshots(const QString &folder)
 
 int main(int argc, char **argv)
 {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     const QStringList args = QApplication::arguments().mid(1);
     if (args.size() == 2 && args.first() == QLatin1String("--screenshot"))
