@@ -556,7 +556,7 @@ void GenerateReport::drawSystem()
     gpio.header = QStringList{tr("Pin Name"),          tr("Signal"),       tr("GPIO mode"),
                               tr("GPIO type"),         tr("Pull type"),    tr("Driver capability"),
                               tr("Output level"),      tr("Label"),        tr("GPIO")};
-    gpio.columnWeights = {1, 1.5, 1.4, 1.3, 1.2, 1.3, 1.2, 1.3, 1.1};
+    gpio.columnWeights = {0.9, 2.0, 1.4, 1.2, 1.2, 1.3, 1.1, 1.3, 1.0};
     for (const ReportGpioRow &r : m_inputs.gpio)
         gpio.rows << QStringList{r.pinName, r.signal,      r.mode,  r.type, r.pull,
                                  r.drive,   r.outputLevel, r.label, r.owner};
