@@ -20,6 +20,13 @@ if(MQ48_SANITIZE)
          "UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1")
 endif()
 
+# How long one test program may run: a sanitized build runs several times slower (every
+# allocation is recorded with its whole stack).
+set(MQ48_TEST_TIMEOUT 600)
+if(MQ48_SANITIZE)
+    set(MQ48_TEST_TIMEOUT 3000)
+endif()
+
 # Gives a test the environment of the unit tests (headless, and the sanitizers' options).
 function(mq48_test_environment test)
     set_tests_properties(${test} PROPERTIES ENVIRONMENT "${MQ48_TEST_ENVIRONMENT}")
@@ -60,7 +67,7 @@ function(mq48_tests name)
         MQ48_BUILD_DB_DIR="${CMAKE_BINARY_DIR}/bin/MQ48DB")
     if(NOT ARG_SHARDS OR ARG_SHARDS LESS 2)
         add_test(NAME ${name} COMMAND test_${name})
-        set_tests_properties(${name} PROPERTIES TIMEOUT 600)
+        set_tests_properties(${name} PROPERTIES TIMEOUT ${MQ48_TEST_TIMEOUT})
         mq48_test_environment(${name})
         return()
     endif()
@@ -69,7 +76,7 @@ function(mq48_tests name)
     math(EXPR last "${ARG_SHARDS} - 1")
     foreach(index RANGE ${last})
         add_test(NAME ${name}_${index} COMMAND test_${name})
-        set_tests_properties(${name}_${index} PROPERTIES TIMEOUT 600 ENVIRONMENT
+        set_tests_properties(${name}_${index} PROPERTIES TIMEOUT ${MQ48_TEST_TIMEOUT} ENVIRONMENT
             "${MQ48_TEST_ENVIRONMENT};GTEST_TOTAL_SHARDS=${ARG_SHARDS};GTEST_SHARD_INDEX=${index}")
     endforeach()
 endfunction()

@@ -6,6 +6,8 @@
 #include <QSslSocket>
 #include <QTimer>
 
+#include <memory>
+
 namespace {
 
 QByteArray reasonOf(int status)
@@ -58,7 +60,8 @@ void TestHttpsServer::incomingConnection(qintptr handle)
     socket->setLocalCertificate(m_certificate);
     socket->setPrivateKey(m_key);
     socket->setPeerVerifyMode(QSslSocket::VerifyNone);
-    auto *received = new QByteArray;
+    // Freed with the connection below, which goes when the socket does.
+    auto received = std::make_shared<QByteArray>();
     connect(socket, &QSslSocket::encrypted, this, [this]() { ++handshakes; });
     connect(socket, &QSslSocket::readyRead, this, [this, socket, received]() {
         received->append(socket->readAll());
@@ -68,7 +71,6 @@ void TestHttpsServer::incomingConnection(qintptr handle)
         }
     });
     connect(socket, &QSslSocket::disconnected, socket, &QObject::deleteLater);
-    connect(socket, &QObject::destroyed, this, [received]() { delete received; });
     socket->startServerEncryption();
 }
 
