@@ -16,7 +16,7 @@
 
 namespace {
 
-struct CommandSpec
+struct CommandSyntax
 {
     CommandLineRequest::Command command;
     QStringList options;  // options that take a value
@@ -24,9 +24,9 @@ struct CommandSpec
     QStringList required; // options that must be given
 };
 
-const QMap<QString, CommandSpec> &commands()
+const QMap<QString, CommandSyntax> &commands()
 {
-    static const QMap<QString, CommandSpec> table = {
+    static const QMap<QString, CommandSyntax> table = {
         {QStringLiteral("generate"),
          {CommandLineRequest::Generate,
           {QStringLiteral("--output"), QStringLiteral("--ide")},
@@ -81,16 +81,16 @@ CommandLineRequest parseCommandLine(const QStringList &arguments)
         return fail(
             QCoreApplication::translate("CommandLine", "unknown command \"%1\"").arg(first));
 
-    const CommandSpec &spec = commands().value(first);
-    request.command = spec.command;
+    const CommandSyntax &syntax = commands().value(first);
+    request.command = syntax.command;
     QStringList given;
     for (int i = 1; i < arguments.size(); ++i) {
         const QString arg = arguments.at(i);
-        if (spec.flags.contains(arg)) {
+        if (syntax.flags.contains(arg)) {
             request.keepUserCode = false; // the one flag there is
             continue;
         }
-        if (spec.options.contains(arg)) {
+        if (syntax.options.contains(arg)) {
             if (i + 1 >= arguments.size() || arguments.at(i + 1).isEmpty())
                 return fail(
                     QCoreApplication::translate("CommandLine", "%1 needs a value").arg(arg));
@@ -114,7 +114,7 @@ CommandLineRequest parseCommandLine(const QStringList &arguments)
     }
     if (request.input.isEmpty())
         return fail(QCoreApplication::translate("CommandLine", "%1 needs a file").arg(first));
-    for (const QString &option : spec.required) {
+    for (const QString &option : syntax.required) {
         if (!given.contains(option))
             return fail(
                 QCoreApplication::translate("CommandLine", "%1 needs %2").arg(first, option));

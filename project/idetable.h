@@ -7,7 +7,7 @@
 // The file formats the project writer knows; each IDE type is a row over one of them.
 enum class ProjectFormatKind {
     Eclipse, // Eclipse CDT .project/.cproject (the maker's IDE adds preferences.ini)
-    Iar,     // IAR Embedded Workbench .eww/.ewp/.ewd/.ewt
+    Iar,     // IAR workspace and project files .eww/.ewp/.ewd/.ewt
     Keil,    // Keil µVision .uvprojx/.uvoptx or .uvproj/.uvopt
 };
 

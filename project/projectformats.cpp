@@ -195,7 +195,7 @@ bool keilUserGroup(XmlNode &e, const ProjectContext &c)
     return true;
 }
 
-// --- IAR Embedded Workbench -------------------------------------------------------------
+// --- IAR workspace and project ----------------------------------------------------------
 
 bool iarChip(XmlNode &e, const ProjectContext &c)
 {

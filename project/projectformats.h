@@ -64,7 +64,7 @@ public:
     QList<TemplateFile> files(const IdeType &ide) const override;
 };
 
-// IAR Embedded Workbench: workspace, project, debugger and tool settings files.
+// IAR: workspace, project, debugger and tool settings files.
 class IarProjectFormat : public ProjectFormat
 {
 public:

@@ -5,7 +5,10 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
-ArmCompiler::ArmCompiler() : m_gcc(QStandardPaths::findExecutable(QStringLiteral("arm-none-eabi-gcc"))) {}
+ArmCompiler::ArmCompiler()
+    : m_gcc(QStandardPaths::findExecutable(QStringLiteral("arm-none-eabi-gcc")))
+{
+}
 
 QString ArmCompiler::packageFolder()
 {
@@ -16,11 +19,12 @@ QString ArmCompiler::packageFolder()
 QStringList ArmCompiler::commonArgs(const QStringList &incFolders, const QString &device) const
 {
     const QString lib = packageFolder() + QStringLiteral("/libraries");
-    QStringList args = {"-mcpu=cortex-m4", "-mthumb", "-std=c99", "-Wall", "-Wextra",
-                        "-Werror", "-D" + device, "-DUSE_STDPERIPH_DRIVER"};
+    QStringList args = {"-mcpu=cortex-m4", "-mthumb", "-std=c99",    "-Wall",
+                        "-Wextra",         "-Werror", "-D" + device, "-DUSE_STDPERIPH_DRIVER"};
     for (const QString &inc : incFolders)
         args << "-I" + inc;
-    args << "-I" + lib + "/cmsis/cm4/core_support" << "-I" + lib + "/cmsis/cm4/device_support"
+    args << "-I" + lib + "/cmsis/cm4/core_support"
+         << "-I" + lib + "/cmsis/cm4/device_support"
          << "-I" + lib + "/drivers/inc";
     return args;
 }
@@ -51,6 +55,17 @@ bool ArmCompiler::compile(const QStringList &cFiles, const QStringList &incFolde
     return run(m_gcc, commonArgs(incFolders, device) << "-c" << cFiles, objects.path(), output);
 }
 
+QStringList ArmCompiler::bareMetalLinkArgs(const QString &elf)
+{
+    return {QStringLiteral("-Wl,--start-group"),
+            QStringLiteral("-lc"),
+            QStringLiteral("-lnosys"),
+            QStringLiteral("-Wl,--end-group"),
+            QStringLiteral("-Wl,--gc-sections"),
+            QStringLiteral("-o"),
+            elf};
+}
+
 QString ArmCompiler::linkerScript(const QString &device)
 {
     // The series, "x", and the flash character of the part number.
@@ -60,15 +75,18 @@ QString ArmCompiler::linkerScript(const QString &device)
 bool ArmCompiler::link(const QStringList &cFiles, const QStringList &incFolders,
                        const QString &device, const QString &elf, QString *output) const
 {
-    const QString support = packageFolder() + QStringLiteral("/libraries/cmsis/cm4/device_support");
+    const QString support =
+        packageFolder() + QStringLiteral("/libraries/cmsis/cm4/device_support");
     QStringList args = commonArgs(incFolders, device);
-    args << "-Os" << "-ffunction-sections" << "-fdata-sections" << cFiles;
+    args << "-Os"
+         << "-ffunction-sections"
+         << "-fdata-sections" << cFiles;
     const QDir drivers(packageFolder() + QStringLiteral("/libraries/drivers/src"));
     for (const QString &c : drivers.entryList({QStringLiteral("*.c")}, QDir::Files, QDir::Name))
         args << drivers.filePath(c);
     args << support + "/system_mq48t110.c" << support + "/startup/gcc/startup_mq48t110.s"
          << "-T" << support + "/startup/gcc/linker/" + linkerScript(device)
-         << "--specs=nano.specs" << "--specs=nosys.specs" << "-Wl,--gc-sections" << "-o" << elf;
+         << bareMetalLinkArgs(elf);
     QTemporaryDir objects;
     return run(m_gcc, args, objects.path(), output);
 }

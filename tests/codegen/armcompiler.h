@@ -24,6 +24,9 @@ public:
     // links them with the linker script of the device's flash size into `elf`.
     bool link(const QStringList &cFiles, const QStringList &incFolders, const QString &device,
               const QString &elf, QString *output) const;
+    // The link options after the linker script: the C library with empty system calls (a bare
+    // board has no operating system) and unused sections dropped, then "-o elf".
+    static QStringList bareMetalLinkArgs(const QString &elf);
     // The linker script of a device: "MQ48T110x8_FLASH.ld" for MQ48T110C8T.
     static QString linkerScript(const QString &device);
     // The output of arm-none-eabi-nm for a linked program.

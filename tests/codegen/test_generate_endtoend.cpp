@@ -89,8 +89,9 @@ bool buildEclipseProject(const QString &ideFolder, const QString &elf, QString *
         value.replace(QStringLiteral("${workspace_loc:/${ProjName}}"), ideFolder);
         return QDir::cleanPath(value);
     };
-    QStringList args = {"-mcpu=cortex-m4", "-mthumb", "-std=c99", "-Wall", "-Wextra", "-Werror",
-                        "-Os", "-ffunction-sections", "-fdata-sections"};
+    QStringList args = {"-mcpu=cortex-m4", "-mthumb", "-std=c99", "-Wall",
+                        "-Wextra",         "-Werror", "-Os",      "-ffunction-sections",
+                        "-fdata-sections"};
     for (const QString &define :
          cprojectValues(cproject, "ilg.gnuarmeclipse.managedbuild.cross.option.c.compiler.defs"))
         args << "-D" + define;
@@ -123,8 +124,7 @@ bool buildEclipseProject(const QString &ideFolder, const QString &elf, QString *
         *output = "the project names no single linker script";
         return false;
     }
-    args << "-T" << resolve(scripts.first()) << "--specs=nano.specs" << "--specs=nosys.specs"
-         << "-Wl,--gc-sections" << "-o" << elf;
+    args << "-T" << resolve(scripts.first()) << ArmCompiler::bareMetalLinkArgs(elf);
     QProcess gcc;
     gcc.setWorkingDirectory(QFileInfo(elf).path());
     gcc.setProcessChannelMode(QProcess::MergedChannels);
@@ -218,15 +218,13 @@ TEST_F(GenerateEndToEnd, EclipseProjectHoldsLibraryAndCodeOfTheDesignAndBuilds)
     const QStringList files = filesBelow(root);
     for (const char *expected :
          {"libraries/drivers/src/mq48t110_usart.c", "libraries/drivers/inc/mq48t110_usart.h",
-          "libraries/cmsis/cm4/device_support/system_mq48t110.c",
-          "project/Eclipse_gcc/.project", "project/Eclipse_gcc/.cproject",
-          "project/Eclipse_gcc/startup_mq48t110.s",
+          "libraries/cmsis/cm4/device_support/system_mq48t110.c", "project/Eclipse_gcc/.project",
+          "project/Eclipse_gcc/.cproject", "project/Eclipse_gcc/startup_mq48t110.s",
           "project/Eclipse_gcc/ldscripts/MQ48T110x8_FLASH.ld", "project/src/main.c",
           "project/src/mq48t110_pf_config.c", "project/src/mq48t110_int.c",
           "project/inc/mq48t110_pf_config.h", "project/inc/mq48t110_int.h",
           "project/inc/mq48t110_conf.h"})
-        EXPECT_TRUE(files.contains(expected)) << expected << "\n"
-                                              << qPrintable(files.join("\n"));
+        EXPECT_TRUE(files.contains(expected)) << expected << "\n" << qPrintable(files.join("\n"));
 
     // What the user set on the other pages is in the code.
     const QString config = read(root + "/project/src/mq48t110_pf_config.c");
@@ -246,8 +244,8 @@ TEST_F(GenerateEndToEnd, EclipseProjectHoldsLibraryAndCodeOfTheDesignAndBuilds)
     EXPECT_TRUE(QRegularExpression("#define LED_GPIO_PORT +GPIOC").match(header).hasMatch());
     EXPECT_TRUE(config.contains("gpio_init_struct.gpio_pull = GPIO_PULL_UP;"));
     EXPECT_TRUE(config.contains("gpio_init(LED_GPIO_PORT, &gpio_init_struct);"));
-    EXPECT_TRUE(read(root + "/project/src/mq48t110_int.c")
-                    .contains("void USART1_IRQHandler(void)"));
+    EXPECT_TRUE(
+        read(root + "/project/src/mq48t110_int.c").contains("void USART1_IRQHandler(void)"));
     for (const QString &file : files)
         EXPECT_FALSE(read(root + "/" + file).contains("[#")) << qPrintable(file);
 
@@ -255,8 +253,8 @@ TEST_F(GenerateEndToEnd, EclipseProjectHoldsLibraryAndCodeOfTheDesignAndBuilds)
     if (!gcc.available())
         GTEST_SKIP() << "arm-none-eabi-gcc is not installed";
     QString output;
-    EXPECT_TRUE(buildEclipseProject(root + "/project/Eclipse_gcc", out.path() + "/uart_dma.elf",
-                                    &output))
+    EXPECT_TRUE(
+        buildEclipseProject(root + "/project/Eclipse_gcc", out.path() + "/uart_dma.elf", &output))
         << qPrintable(output);
 }
 
@@ -292,9 +290,9 @@ TEST_F(GenerateEndToEnd, KeilProjectNamesTheDeviceTheSizesAndEveryFileItNeeds)
         GTEST_SKIP() << "arm-none-eabi-gcc is not installed";
     QString output;
     const QString code = root + "/project";
-    EXPECT_TRUE(gcc.compile({code + "/src/main.c", code + "/src/mq48t110_pf_config.c",
-                             code + "/src/mq48t110_int.c"},
-                            {code + "/inc"}, "MQ48T110C8T", &output))
+    EXPECT_TRUE(gcc.compile(
+        {code + "/src/main.c", code + "/src/mq48t110_pf_config.c", code + "/src/mq48t110_int.c"},
+        {code + "/inc"}, "MQ48T110C8T", &output))
         << qPrintable(output);
 }
 

@@ -381,16 +381,16 @@ def timers(name, row):
 def build(name):
     row = dict(F.FAMILIES[name])
     inst = set(F.instances(name))
-    spec = dict(row, name=name, instances=inst, devices=F.device_rows(name),
+    plan = dict(row, name=name, instances=inst, devices=F.device_rows(name),
                 remap=row.get("remap", False), series_index=F.series_index(name),
                 package_index=F.PACKAGE_INDEX)
-    pins = pinmap.GeneratedPins(spec)
+    pins = pinmap.GeneratedPins(plan)
     rows = peripheral_rows(name, row, pins)
     no_vbat = " ".join(p for p, (_, _, _, _, layout) in sorted(pins.PACKAGES.items())
                        if "PC13" not in layout)
     facts = dict(row)
     facts.update(
-        remap=spec["remap"],
+        remap=plan["remap"],
         PERIPH_IRQS=irq_table(name, row),
         DMA_CHANNELS=dma_channels(row),
         DMA_REQUESTS=dma_requests(name, row),

@@ -10,7 +10,7 @@ SAMPLE = ["1_5", "7_5", "13_5", "28_5", "41_5", "55_5", "71_5", "239_5"]
 SAMPLE_NEW = ["2_5", "6_5", "12_5", "24_5", "47_5", "92_5", "247_5", "640_5"]
 
 
-class AdcSpec:
+class AdcFacts:
     """What one ADC instance of a family has."""
 
     def __init__(self, fam, inst):
@@ -77,10 +77,10 @@ def _triggers(fam, inst, group, exint):
     return out
 
 
-def _channel_values(spec):
+def _channel_values(adc):
     vals = [("ADC_CHANNEL_%d" % n, "Channel %d" % n, "通道 %d" % n, None,
-             X + "IN%d" % n) for n in spec.channels]
-    if spec.internal:
+             X + "IN%d" % n) for n in adc.channels]
+    if adc.internal:
         vals += [("ADC_CHANNEL_16", "Temperature sensor", "温度传感器", None,
                   X + "TEMP"),
                  ("ADC_CHANNEL_17", "Vintrv", "内部参考电压", None, X + "VINTRV")]
@@ -88,15 +88,15 @@ def _channel_values(spec):
 
 
 def adc_file(fam, inst):
-    spec = AdcSpec(fam, inst)
+    adc = AdcFacts(fam, inst)
     modes = []
-    if spec.exint:
+    if adc.exint:
         modes = [RefSignal("EXINT11", "", virtual=True),
                  RefSignal("EXINT15", "", virtual=True)]
-    for n in spec.channels:
+    for n in adc.channels:
         modes.append(Check("IN%d" % n, ("IN%d" % n, "IN%d" % n),
                            [S("IN%d" % n, A)], sems=[X + "IN%d" % n]))
-    if spec.internal:
+    if adc.internal:
         modes += [
             Check("Temperature Sensor Channel", ("Temperature Sensor Channel",
                                                  "温度传感器通道"),
@@ -120,7 +120,7 @@ def adc_file(fam, inst):
     VM = ("Voltage Monitoring", "电压监测")
     ord_on, pre_on, vm_on = X + "ORD_ON", X + "PRE_ON", X + "VM_ON"
     samp = [("ADC_SAMPLETIME_" + s, s.replace("_", ".") + " Cycles",
-             s.replace("_", ".") + " 周期") for s in spec.sample]
+             s.replace("_", ".") + " 周期") for s in adc.sample]
     first = samp[0][0]
     p = [
         B("SequenceMode", ("Sequence Mode", "序列模式"), BASIC,
@@ -147,8 +147,8 @@ def adc_file(fam, inst):
                 for k in range(1, 17)], expr=ord_on,
           desc="Channels in the ordinary sequence."),
         L("OrdinaryTriggerSource", ("Trigger Source", "触发源"), ORD,
-          spec.ord_trig[0][0],
-          spec.ord_trig, expr=ord_on,
+          adc.ord_trig[0][0],
+          adc.ord_trig, expr=ord_on,
           desc="Event that starts the ordinary group."),
         B("OrdinaryPartitionedMode", ("Partitioned Mode", "分割模式"), ORD,
           sems=(X + "ORD_PART", None), expr=ord_on,
@@ -163,7 +163,7 @@ def adc_file(fam, inst):
         e = ord_on + ("&" + X + "ORD_NUM>%d" % (k - 1) if k > 1 else "")
         p += [L("Channel_OrdinarySequence_%d" % k, ("Rank %d Channel" % k,
                                                     "序列 %d 通道" % k),
-                ORD, "ADC_CHANNEL_%d" % spec.channels[0], _channel_values(spec), expr=e,
+                ORD, "ADC_CHANNEL_%d" % adc.channels[0], _channel_values(adc), expr=e,
                 desc="Channel converted at rank %d." % k),
               L("SamplingTime_OrdinarySequence_%d" % k,
                 ("Rank %d Sampling Time" % k, "序列 %d 采样时间" % k), ORD,
@@ -178,8 +178,8 @@ def adc_file(fam, inst):
                 for k in range(1, 5)], expr=pre_on,
           desc="Channels in the preempted sequence."),
         L("PreemptedTriggerSource", ("Trigger Source", "触发源"), PRE,
-          spec.pre_trig[0][0],
-          spec.pre_trig, expr=pre_on,
+          adc.pre_trig[0][0],
+          adc.pre_trig, expr=pre_on,
           desc="Event that starts the preempted group."),
         L("PreemptedConvMode", ("Conversion Mode", "转换模式"), PRE, "Normal",
           [("Normal", "Triggered", "触发转换"),
@@ -192,7 +192,7 @@ def adc_file(fam, inst):
         e = pre_on + ("&" + X + "PRE_NUM>%d" % (k - 1) if k > 1 else "")
         p += [L("Channel_PreemptedSequence_%d" % k, ("Rank %d Channel" % k,
                                                      "序列 %d 通道" % k),
-                PRE, "ADC_CHANNEL_%d" % spec.channels[0], _channel_values(spec), expr=e,
+                PRE, "ADC_CHANNEL_%d" % adc.channels[0], _channel_values(adc), expr=e,
                 desc="Channel converted at preempted rank %d." % k),
               L("SamplingTime_PreemptedSequence_%d" % k,
                 ("Rank %d Sampling Time" % k, "序列 %d 采样时间" % k), PRE,
@@ -221,7 +221,7 @@ def adc_file(fam, inst):
         L("VoltageMonitoringMode", ("Monitoring Mode", "监测模式"), VM,
           vmodes[0][0], vmodes, expr=vm_on, desc="Channels watched."),
         L("VoltageMonitoringChannel", ("Monitored Channel", "监测通道"), VM,
-          "ADC_CHANNEL_%d" % spec.channels[0], _channel_values(spec),
+          "ADC_CHANNEL_%d" % adc.channels[0], _channel_values(adc),
           expr=vm_on + "&" + X + "VM_SINGLE", desc="Channel watched."),
         H("AWD1HighBoundary", ("High Threshold", "高阈值"), VM, "FFF", "FFF",
           expr=vm_on, desc="Upper threshold, 12 bit."),
@@ -235,12 +235,12 @@ def adc_file(fam, inst):
           desc="Interrupt when a result leaves the window."),
     ]
     items = modes + p
-    if not spec.exint:
+    if not adc.exint:
         items = prune(items, modes=["External-Trigger-for-Ordinary-Conversion",
                                     "External-Trigger-for-Preempted-Conversion"])
-    if not spec.internal or spec.common:
+    if not adc.internal or adc.common:
         items = prune(items, params=["TemperatureVINTRV"])
-    return build_ip(_newer_adc(spec, items), mark_virtual=fam.fact("mark_virtual"))
+    return build_ip(_newer_adc(adc, items), mark_virtual=fam.fact("mark_virtual"))
 
 
 COMBINED = [
@@ -264,17 +264,17 @@ COMBINED = [
 ]
 
 
-def _newer_adc(spec, items):
+def _newer_adc(adc, items):
     """Adds what the ADC of a family has beyond the first kind: the combined mode of a dual
     ADC, the clock prescaler of the ADCs on the AHB, resolution, trigger edges and
     oversampling."""
     pre = []
-    if spec.dual:
+    if adc.dual:
         pre.append(L("Mode", ("Combined Mode", "组合模式"), ("ADC Combined Mode",
                                                          "ADC 组合模式"),
                      COMBINED[0][0], COMBINED,
                      desc="How ADC1 and ADC2 convert together; ADC2 follows ADC1."))
-    if spec.prescaler:
+    if adc.prescaler:
         g = ("ADC Clock", "ADC 时钟")
         pre += [L("ClockPrescaler", ("Clock Prescaler", "时钟分频"), g, "ADC_HCLK_DIV_4",
                   [("ADC_HCLK_DIV_%d" % d, "HCLK / %d" % d, "HCLK / %d" % d)
@@ -283,7 +283,7 @@ def _newer_adc(spec, items):
                        "80 MHz or the APB2 clock."),
                 T("Clock", ("ADC Clock", "ADC 时钟"), g,
                   desc="Clock of the ADCs in Hz.")]
-    if not spec.new:
+    if not adc.new:
         return pre + items
     edges = [("NONE", "Off", "关闭"), ("RISING", "Rising edge", "上升沿"),
              ("FALLING", "Falling edge", "下降沿"), ("RISING_FALLING", "Both edges", "双边沿")]

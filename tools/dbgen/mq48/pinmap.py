@@ -276,7 +276,7 @@ def io_mode(signal):
 class GeneratedPins:
     """Pin table of one generated series (see family.py for the interface).
 
-    ``spec`` keys: name, instances (set of instance names), devices (catalogue rows),
+    ``plan`` keys: name, instances (set of instance names), devices (catalogue rows),
     remap (bool), osc ("PH", "PF" or "PD"), clkout {signal: ["PA8:0", ...]}, wkup (numbers),
     rtc ("ERTC" or "RTC"), tamper2 (bool), xmc (set of XMC_KINDS keys), remap_tssop (bool),
     series_index (catalogue place from 1), package_index, aliases {map prefix: instance}.
@@ -284,13 +284,13 @@ class GeneratedPins:
 
     FIXED = {k: v for k, v in SUPPLY.items()}
 
-    def __init__(self, spec):
-        self.spec = spec
-        self.name = spec["name"]
-        inst = spec["instances"]
+    def __init__(self, plan):
+        self.plan = plan
+        self.name = plan["name"]
+        inst = plan["instances"]
         table = parse_functions()
-        aliases = spec.get("aliases", {})
-        xmc = spec.get("xmc", set())
+        aliases = plan.get("aliases", {})
+        xmc = plan.get("xmc", set())
         self._mux = {}
         for pin, funcs in table.items():
             kept = []
@@ -314,12 +314,12 @@ class GeneratedPins:
                     if sig in MULTIPLEXED:
                         funcs.append((MULTIPLEXED[sig], mux))
                         self._multi |= {(pin, sig), (pin, MULTIPLEXED[sig])}
-        for sig, places in spec.get("clkout", {}).items():
+        for sig, places in plan.get("clkout", {}).items():
             for place in places:
                 pin, mux = place.split(":")
                 self._mux.setdefault(pin, []).append((sig, int(mux)))
         self.DEVICES = [(r["name"], r["package"], r["flash"], r["sram"])
-                        for r in spec["devices"]]
+                        for r in plan["devices"]]
         self.PACKAGES = {}
         for _, package, _, _ in self.DEVICES:
             if package in self.PACKAGES:
@@ -340,7 +340,7 @@ class GeneratedPins:
     # ------------------------------------------------------------------ layout --
 
     def crystal(self, count):
-        osc = self.spec["osc"]
+        osc = self.plan["osc"]
         if osc == "PD":
             return ("PD0/HEXT_IN", "PD1/HEXT_OUT") if count <= 64 else ("HEXT_IN", "HEXT_OUT")
         return (osc + "0", osc + "1")
@@ -349,7 +349,7 @@ class GeneratedPins:
         hin, hout = self.crystal(count)
         names = [hin if n == "OSCIN" else hout if n == "OSCOUT" else n
                  for n in expand(FRAMES[count])]
-        if count == 20 and self.spec.get("remap_tssop"):
+        if count == 20 and self.plan.get("remap_tssop"):
             names = ["PA9/PA11" if n == "PA9" else "PA10/PA12" if n == "PA10" else n
                      for n in names]
         bits = [self.port_bit(n) for n in names if self.port_bit(n)]
@@ -377,12 +377,12 @@ class GeneratedPins:
         return sorted(self._io, key=lambda p: (self.port_bit(p), p))
 
     def mux_of(self, pin):
-        if self.spec["remap"]:
+        if self.plan["remap"]:
             return []
         return [(s, m) for s, m in self._mux.get(self._bit(pin), [])] + [("EVENTOUT", 15)]
 
     def analog_of(self, bit):
-        inst = self.spec["instances"]
+        inst = self.plan["instances"]
         out = []
         if bit in ADC_CHANNELS:
             for adc in ("ADC1", "ADC2", "ADC3"):
@@ -398,16 +398,16 @@ class GeneratedPins:
     def direct_of(self, bit):
         """Functions without multiplexer: wake-up, backup domain, oscillators."""
         out = []
-        for n in self.spec.get("wkup", ()):
+        for n in self.plan.get("wkup", ()):
             if WKUP_PINS[n] == bit:
                 out.append("PWC_WKUP%d" % n)
-        rtc = self.spec.get("rtc")
+        rtc = self.plan.get("rtc")
         if rtc == "ERTC":
             if bit == "PB15":
                 out.append("ERTC_REFIN")
             if bit == "PC13":
                 out += ["ERTC_TAMP1", "ERTC_OUT"]
-            if bit == "PA0" and self.spec.get("tamper2"):
+            if bit == "PA0" and self.plan.get("tamper2"):
                 out.append("ERTC_TAMP2")
         elif rtc == "RTC" and bit == "PC13":
             out += ["RTC_TAMPER", "RTC_OUT"]
@@ -480,8 +480,8 @@ class GeneratedPins:
 
     def pid_of(self, package, flash, sram):
         codes = {16: 0, 32: 2, 64: 4, 128: 7, 256: 9, 512: 11, 1024: 13, 4096: 16}
-        v = (0x4D << 24 | self.spec["series_index"] << 16
-             | self.spec["package_index"][package] << 11 | codes[flash] << 6
+        v = (0x4D << 24 | self.plan["series_index"] << 16
+             | self.plan["package_index"][package] << 11 | codes[flash] << 6
              | min(sram // 8, 63))
         return "0x%08X" % v
 
@@ -501,7 +501,7 @@ class GeneratedPins:
     def groups(self):
         """Remap groups of the families without per-pin multiplexer: group k puts every
         signal of an instance on its k-th pin (or its last one)."""
-        if not self.spec["remap"]:
+        if not self.plan["remap"]:
             return []
         out = []
         for inst, sigs in sorted(self.positions().items()):
