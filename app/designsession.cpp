@@ -217,16 +217,6 @@ void collectPins(const FormConfiguration &form, DesignDocument *doc)
 
 // --- Applying ---------------------------------------------------------------------------
 
-// Lets a panel's queued work (the mode thread's hand-back, the rows' refresh) run now.
-void settlePanel(IP_ModeAndConfiguration *panel)
-{
-    if (ParamSettingWidget *params = panel->paramSettingWidget()) {
-        params->modeThread.wait();
-        QCoreApplication::sendPostedEvents(params, QEvent::MetaCall);
-    }
-    QCoreApplication::sendPostedEvents(panel, QEvent::MetaCall);
-}
-
 void applyPins(FormConfiguration &form, const DesignDocument &doc, QStringList *problems)
 {
     ChipView *chip = form.chipDrawing();
@@ -413,7 +403,7 @@ void applyPeripheral(IP_ModeAndConfiguration *panel, const DesignPeripheralBlock
             problems->append(QCoreApplication::translate("DesignSession",
                                                          "%1: mode \"%2\" cannot be set to \"%3\"")
                                  .arg(block.instance, pair.first, pair.second));
-        settlePanel(panel);
+        panel->settle();
     }
     ParamSettingWidget *params = panel->paramSettingWidget();
     if (!params) {
@@ -444,7 +434,7 @@ void applyPeripheral(IP_ModeAndConfiguration *panel, const DesignPeripheralBlock
             params->setParameterValue(pair.first, pair.second);
     }
     params->refreshNow();
-    settlePanel(panel);
+    panel->settle();
 }
 
 // Replays the DMA blocks; requests of peripherals whose mode is still off are kept for the

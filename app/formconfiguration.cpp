@@ -54,8 +54,8 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QSplitter>
-#include <QToolBar>
 #include <QTimer>
+#include <QToolBar>
 #include <QTranslator>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -817,8 +817,7 @@ void FormConfiguration::CodeView_PushButton_Clicked()
     if (!designOpen)
         return;
     // The checks bring the page forward that holds a problem; only generated files are shown.
-    if (m_codeGeneration->generateForCodeView() !=
-        GenerateCodeAction::CodeViewOutcome::Generated)
+    if (m_codeGeneration->generateForCodeView() != GenerateCodeAction::CodeViewOutcome::Generated)
         return;
     codeView->showGeneratedFiles(m_codeGeneration->outputFolder(),
                                  findtext::codeFileStem(m_design.series));
@@ -874,13 +873,8 @@ void FormConfiguration::updateTitle()
 
 void FormConfiguration::flushPanelUpdates()
 {
-    for (IP_ModeAndConfiguration *panel : qAsConst(ipPanels)) {
-        if (ParamSettingWidget *params = panel->paramSettingWidget()) {
-            params->modeThread.wait();
-            QCoreApplication::sendPostedEvents(params, QEvent::MetaCall);
-        }
-        QCoreApplication::sendPostedEvents(panel, QEvent::MetaCall);
-    }
+    for (IP_ModeAndConfiguration *panel : qAsConst(ipPanels))
+        panel->settle();
 }
 
 bool FormConfiguration::writeDesign(const QString &path, QString *error)
@@ -913,8 +907,8 @@ bool FormConfiguration::saveDesignAs()
         return false;
     const QString proposed =
         designPath.isEmpty() ? m_design.mcuName + QStringLiteral("_PinForge.MQPF") : designPath;
-    const QString path = QFileDialog::getSaveFileName(
-        this, tr("Save"), proposed, tr("MQ48 Pin Forge Design File (*.MQPF)"));
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save"), proposed,
+                                                      tr("MQ48 Pin Forge Design File (*.MQPF)"));
     if (path.isEmpty())
         return false;
     designPath = path;

@@ -15,7 +15,7 @@
 
 namespace {
 
-// Whether the arguments name a command; the window needs none.
+// The arguments after the program name; any at all name a command.
 QStringList commandArguments(int argc, char *argv[])
 {
     QStringList arguments;

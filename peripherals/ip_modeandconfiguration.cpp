@@ -790,3 +790,12 @@ void IP_ModeAndConfiguration::retranslateUi()
     runHintRule();
     rebuildTabs();
 }
+
+void IP_ModeAndConfiguration::settle()
+{
+    if (m_paramWidget) {
+        m_paramWidget->modeThread.wait();
+        QCoreApplication::sendPostedEvents(m_paramWidget, QEvent::MetaCall);
+    }
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+}

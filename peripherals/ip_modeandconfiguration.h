@@ -70,6 +70,8 @@ public:
     // The DMA models that have requests of this instance.
     QList<DmaRequestModel *> dmaModels() const;
     ParamSettingWidget *paramSettingWidget() const { return m_paramWidget; }
+    // Lets the panel's queued work (the mode thread's hand-back, the rows' refresh) run now.
+    void settle();
     // The timing diagram under the tabs (CAN, I2C, timers), or nullptr.
     TimingDiagram *timingDiagram() const { return m_diagram; }
     QTabWidget *tabWidget() const { return m_tabWidget; }
@@ -98,8 +100,7 @@ public:
     void ReceiveSemaphoreFromOtherIP(const QStringList &semaphores, bool validFlag);
     // The parameter list of another instance, passed on by the work form: the family's rule
     // for it runs here, and nothing is sent on, so that a list never comes back.
-    void ReceiveParamListFromOtherIP(const QList<RefParameter> &parameters,
-                                     const QString &ipName);
+    void ReceiveParamListFromOtherIP(const QList<RefParameter> &parameters, const QString &ipName);
     // Every mode back to "Disable" or unticked, as the user would set them, and every
     // parameter to its default.
     void resetToDefaults();
